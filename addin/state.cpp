@@ -1,0 +1,7 @@
+#include "addin/state.h"
+
+namespace qvx {
+
+AddinState::~AddinState() = default;
+
+}  // namespace qvx

@@ -1,0 +1,2 @@
+#include <cstdio>
+int main() { std::puts("qvx-sim"); return 0; }

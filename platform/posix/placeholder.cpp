@@ -1,0 +1,1 @@
+// Native platform services.
