@@ -3,6 +3,7 @@
 // the native build, fakes in tests.
 #pragma once
 
+#include "platform/message_windows.h"
 #include "platform/object_factory.h"
 #include "platform/registry_api.h"
 #include "platform/system_services.h"
@@ -15,6 +16,7 @@ struct Platform {
   ObjectFactory* objects = nullptr;
   UserInterface* ui = nullptr;
   SystemServices* system = nullptr;
+  MessageWindows* windows = nullptr;
 };
 
 }  // namespace qvx::platform
