@@ -14,10 +14,14 @@ void QVXClientAddin::OnStartupComplete() noexcept {}
 void QVXClientAddin::OnBeginShutdown() noexcept {}
 void QVXClientAddin::OnDisconnection(int) noexcept {}
 void QVXClientAddin::Terminate() noexcept {}
-std::string QVXClientAddin::GetCustomUI(std::string_view) noexcept { return {}; }
+std::string QVXClientAddin::GetCustomUI(std::string_view) noexcept {
+  return {};
+}
 bool QVXClientAddin::InvokeCallback(std::string_view, std::vector<Variant>&, Variant&) noexcept {
   return false;
 }
-bool QVXClientAddin::HasCallback(std::string_view) const noexcept { return false; }
+bool QVXClientAddin::HasCallback(std::string_view) const noexcept {
+  return false;
+}
 
 }  // namespace qvx

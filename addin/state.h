@@ -35,8 +35,8 @@ class AddinState final : public FailureSink {
 
   ErrorState& Err() noexcept override { return err; }
   // The central handler (support/error_reporting.cpp).
-  void ReportError(const std::string& description, int32_t number, int line,
-                   std::string_view label, bool allowDirectSend) noexcept override;
+  void ReportError(const std::string& description, int32_t number, int line, std::string_view label,
+                   bool allowDirectSend) noexcept override;
 };
 
 }  // namespace qvx

@@ -61,14 +61,17 @@ DateValue DateSerial(int year, int month, int day) {
 
 DateValue ComposeDate(const DateParts& p) {
   int64_t year = p.year;
-  if (year >= 0 && year < 30) year += 2000;  // the runtime's two-digit window
-  else if (year >= 30 && year < 100) year += 1900;
+  if (year >= 0 && year < 30)
+    year += 2000;  // the runtime's two-digit window
+  else if (year >= 30 && year < 100)
+    year += 1900;
   int64_t month0 = static_cast<int64_t>(p.month) - 1;
   year += month0 >= 0 ? month0 / 12 : -((11 - month0) / 12);
   month0 = ((month0 % 12) + 12) % 12;
   if (year < 100 || year > 9999) throw Failure::Runtime(err::kOverflow);
   int64_t days = DaysFromCivil(year, month0 + 1, 1) - kEpochDays + (p.day - 1);
-  int64_t seconds = static_cast<int64_t>(p.hour) * 3600 + static_cast<int64_t>(p.minute) * 60 + p.second;
+  int64_t seconds =
+      static_cast<int64_t>(p.hour) * 3600 + static_cast<int64_t>(p.minute) * 60 + p.second;
   days += seconds >= 0 ? seconds / 86400 : -((86399 - seconds) / 86400);
   seconds = ((seconds % 86400) + 86400) % 86400;
   return DateValue{CheckedSerial(Serial(days, seconds))};
@@ -89,7 +92,9 @@ DateParts DecomposeDate(DateValue date) {
   return parts;
 }
 
-DateValue DatePart(DateValue date) { return DateValue{std::trunc(date.serial)}; }
+DateValue DatePart(DateValue date) {
+  return DateValue{std::trunc(date.serial)};
+}
 
 std::string DateToText(DateValue date) {
   const DateParts p = DecomposeDate(date);

@@ -47,7 +47,9 @@ std::string Object::TypeName() const {
   return impl_->TypeName();
 }
 
-std::vector<Variant> Object::Enumerate() const { return Checked().Enumerate(); }
+std::vector<Variant> Object::Enumerate() const {
+  return Checked().Enumerate();
+}
 
 Subscription Object::Subscribe(std::string_view event, EventHandler handler) const {
   return Checked().Subscribe(event, std::move(handler));

@@ -123,11 +123,19 @@ std::string_view RTrim(std::string_view s) {
   return last == std::string_view::npos ? std::string_view{} : s.substr(0, last + 1);
 }
 
-std::string_view Trim(std::string_view s) { return RTrim(LTrim(s)); }
+std::string_view Trim(std::string_view s) {
+  return RTrim(LTrim(s));
+}
 
-std::string UCase(std::string_view s) { return MapCase(s, ToUpperCp); }
-std::string LCase(std::string_view s) { return MapCase(s, ToLowerCp); }
-std::string FoldCase(std::string_view s) { return MapCase(s, ToLowerCp); }
+std::string UCase(std::string_view s) {
+  return MapCase(s, ToUpperCp);
+}
+std::string LCase(std::string_view s) {
+  return MapCase(s, ToLowerCp);
+}
+std::string FoldCase(std::string_view s) {
+  return MapCase(s, ToLowerCp);
+}
 
 bool EqualsText(std::string_view a, std::string_view b) {
   if (a.size() == b.size()) {

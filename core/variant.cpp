@@ -13,9 +13,15 @@
 namespace qvx {
 namespace {
 
-[[noreturn]] void Mismatch() { throw Failure::Runtime(err::kTypeMismatch); }
-[[noreturn]] void Overflow() { throw Failure::Runtime(err::kOverflow); }
-[[noreturn]] void NullUse() { throw Failure::Runtime(err::kInvalidUseOfNull); }
+[[noreturn]] void Mismatch() {
+  throw Failure::Runtime(err::kTypeMismatch);
+}
+[[noreturn]] void Overflow() {
+  throw Failure::Runtime(err::kOverflow);
+}
+[[noreturn]] void NullUse() {
+  throw Failure::Runtime(err::kInvalidUseOfNull);
+}
 
 std::string DoubleToText(double v) {
   if (v == 0.0) return "0";
@@ -120,9 +126,12 @@ bool ParseNumber(std::string_view text, double& out) {
       value = value * 16 + static_cast<uint64_t>(digit);
     }
     // Up to four digits is a 16-bit value, up to eight a 32-bit one, both signed.
-    if (s.size() - 2 <= 4) out = static_cast<int16_t>(static_cast<uint16_t>(value));
-    else if (s.size() - 2 <= 8) out = static_cast<int32_t>(static_cast<uint32_t>(value));
-    else out = static_cast<double>(value);
+    if (s.size() - 2 <= 4)
+      out = static_cast<int16_t>(static_cast<uint16_t>(value));
+    else if (s.size() - 2 <= 8)
+      out = static_cast<int32_t>(static_cast<uint32_t>(value));
+    else
+      out = static_cast<double>(value);
     return true;
   }
   // Only sign, digits, one point and an exponent; strtod would take "inf", "0x".
@@ -155,10 +164,9 @@ bool ParseNumber(std::string_view text, double& out) {
 }
 
 VarType Variant::Type() const noexcept {
-  static constexpr VarType kTypes[] = {VarType::Empty,    VarType::Null,   VarType::Integer,
-                                       VarType::Long,     VarType::Double, VarType::Currency,
-                                       VarType::Date,     VarType::String, VarType::Object,
-                                       VarType::Boolean};
+  static constexpr VarType kTypes[] = {
+      VarType::Empty,    VarType::Null, VarType::Integer, VarType::Long,   VarType::Double,
+      VarType::Currency, VarType::Date, VarType::String,  VarType::Object, VarType::Boolean};
   return kTypes[value_.index()];
 }
 
@@ -213,10 +221,18 @@ std::string Variant::ToText() const {
   Mismatch();
 }
 
-int16_t Variant::ToInteger() const { return ToIntegral<int16_t>(*this); }
-int32_t Variant::ToLong() const { return ToIntegral<int32_t>(*this); }
-double Variant::ToDouble() const { return NumericValue(*this); }
-Currency Variant::ToCurrency() const { return Currency::FromDouble(NumericValue(*this)); }
+int16_t Variant::ToInteger() const {
+  return ToIntegral<int16_t>(*this);
+}
+int32_t Variant::ToLong() const {
+  return ToIntegral<int32_t>(*this);
+}
+double Variant::ToDouble() const {
+  return NumericValue(*this);
+}
+Currency Variant::ToCurrency() const {
+  return Currency::FromDouble(NumericValue(*this));
+}
 
 DateValue Variant::ToDate() const {
   switch (Type()) {

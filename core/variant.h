@@ -79,14 +79,14 @@ class Variant {
   // IsDate(): dates and text that reads as a date.
   bool IsDate() const;
 
-  std::string ToText() const;       // CStr
-  int16_t ToInteger() const;        // CInt
-  int32_t ToLong() const;           // CLng
-  double ToDouble() const;          // CDbl
-  Currency ToCurrency() const;      // CCur
-  DateValue ToDate() const;         // CDate
-  bool ToBoolean() const;           // CBool
-  Object ToObject() const;          // Set x = v; Failure 424 if not an object
+  std::string ToText() const;   // CStr
+  int16_t ToInteger() const;    // CInt
+  int32_t ToLong() const;       // CLng
+  double ToDouble() const;      // CDbl
+  Currency ToCurrency() const;  // CCur
+  DateValue ToDate() const;     // CDate
+  bool ToBoolean() const;       // CBool
+  Object ToObject() const;      // Set x = v; Failure 424 if not an object
 
   // Direct access without conversion; nullptr if of another type.
   template <class T>

@@ -15,7 +15,8 @@ namespace qvx::platform {
 
 // Called for every message the window receives; returns true if handled
 // (the procedure's result is then 0), false to pass it to the previous one.
-using WindowMessageHandler = std::function<bool(uint32_t message, intptr_t wParam, intptr_t lParam)>;
+using WindowMessageHandler =
+    std::function<bool(uint32_t message, intptr_t wParam, intptr_t lParam)>;
 
 // A live listener window; destroying it unhooks and destroys the window.
 class ListenerWindow {

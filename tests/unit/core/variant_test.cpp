@@ -22,10 +22,18 @@ TEST(VariantToInteger, RoundsHalfToEvenAndChecksRange) {
     int16_t out;
   };
   const Row rows[] = {
-      {Variant(2.5), 2},          {Variant(3.5), 4},          {Variant(-2.5), -2},
-      {Variant(-3.5), -4},        {Variant("12"), 12},        {Variant(" 7 "), 7},
-      {Variant("&HFFFF"), -1},    {Variant(true), -1},        {Variant(false), 0},
-      {Variant(), 0},             {Variant("1.5"), 2},        {Variant("32767"), 32767},
+      {Variant(2.5), 2},
+      {Variant(3.5), 4},
+      {Variant(-2.5), -2},
+      {Variant(-3.5), -4},
+      {Variant("12"), 12},
+      {Variant(" 7 "), 7},
+      {Variant("&HFFFF"), -1},
+      {Variant(true), -1},
+      {Variant(false), 0},
+      {Variant(), 0},
+      {Variant("1.5"), 2},
+      {Variant("32767"), 32767},
       {Variant(int32_t{-32768}), -32768},
   };
   for (const Row& row : rows) EXPECT_EQ(row.in.ToInteger(), row.out) << row.in.ToText();

@@ -1,0 +1,61 @@
+#include "core/text.h"
+
+#include <gtest/gtest.h>
+
+namespace qvx {
+namespace {
+
+TEST(Text, TrimRemovesBlanksOnly) {
+  EXPECT_EQ(Trim("  a b  "), "a b");
+  EXPECT_EQ(Trim("\ta\t"), "\ta\t");
+  EXPECT_EQ(Trim("   "), "");
+}
+
+TEST(Text, SplitKeepsTheRuntimeEdgeCases) {
+  EXPECT_TRUE(Split("", "|").empty());
+  EXPECT_EQ(Split("a", "").size(), 1u);
+  EXPECT_EQ(Split("a||b|", "|"), (std::vector<std::string>{"a", "", "b", ""}));
+  EXPECT_EQ(Split("x\r\ny", "\r\n"), (std::vector<std::string>{"x", "y"}));
+  EXPECT_EQ(Join(Split("a|b|c", "|"), "|"), "a|b|c");
+}
+
+TEST(Text, CaseBlindCompareCoversLatinGreekCyrillic) {
+  EXPECT_TRUE(EqualsText("Projekt ÄÖÜ", "projekt äöü"));
+  EXPECT_TRUE(EqualsText("ΑΒΓ", "αβγ"));
+  EXPECT_TRUE(EqualsText("ПРОЕКТ", "проект"));
+  EXPECT_FALSE(EqualsText("a", "b"));
+  EXPECT_EQ(CompareText("apple", "Banana"), -1);
+  EXPECT_EQ(UCase("straße"), "STRAßE");
+}
+
+TEST(Text, PositionsAreOneBased) {
+  EXPECT_EQ(InStr("Mailbox - Jane", " - "), 8u);
+  EXPECT_EQ(InStr("abc", "x"), 0u);
+  EXPECT_EQ(InStrText("MAILBOX - jane", "box - J"), 5u);
+  EXPECT_EQ(InStr("aXbX", "X", 3), 4u);
+  EXPECT_EQ(Mid("héllo", 2, 3), "éll");
+  EXPECT_EQ(Left("héllo", 2), "hé");
+  EXPECT_EQ(Right("héllo", 4), "éllo");
+  EXPECT_EQ(Len("héllo"), 5u);
+}
+
+TEST(Text, ReplaceIsOrdinalAndNonRecursive) {
+  EXPECT_EQ(Replace("a b  c", " ", "_SPACE_"), "a_SPACE_b_SPACE__SPACE_c");
+  EXPECT_EQ(Replace("aaa", "a", "aa"), "aaaaaa");
+  EXPECT_EQ(Replace("x", "", "y"), "x");
+}
+
+TEST(Text, Utf16RoundTripAndInvalidBytes) {
+  const std::string s = "Zeit \xF0\x9F\x95\x92 Ärger";
+  EXPECT_EQ(Utf16ToUtf8(Utf8ToUtf16(s)), s);
+  EXPECT_EQ(Utf8ToUtf16("\xF0\x9F\x95\x92").size(), 2u);
+  EXPECT_EQ(SanitizeUtf8("a\xff"
+                         "b"),
+            "a\xEF\xBF\xBD"
+            "b");
+  EXPECT_EQ(SanitizeUtf8("\xC0\x80"), "\xEF\xBF\xBD\xEF\xBF\xBD");  // overlong NUL
+  EXPECT_EQ(Utf16ToUtf8(std::u16string(1, u'\xD800')), "\xEF\xBF\xBD");
+}
+
+}  // namespace
+}  // namespace qvx
