@@ -1,1 +1,0 @@
-// Native platform services.

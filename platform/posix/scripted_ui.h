@@ -1,0 +1,108 @@
+// ScriptedUserInterface: the POSIX user interface. Nothing is drawn: every
+// message box and every modal form is recorded, and answered from a script,
+// so that tests and scenarios can drive the dialogs and assert what was shown.
+//
+//   ScriptedUserInterface ui;
+//   ui.QueueAnswer(msgbox::kNo);                        // next box answers No
+//   ui.QueueForm(FormScript().SetText("txtReport", "edited").Click("cmdOpenEmail"));
+//   ... run the logic ...
+//   EXPECT_EQ(ui.MessageBoxes().at(0).text, "...");
+//
+// Message boxes take the next queued answer; with none queued they take the
+// default answer (SetDefaultAnswer), or else OK for an OK-only box and the
+// first button for the others. Forms take the next queued script; with none
+// queued, or when the script is done and the form is still loaded, the form is
+// closed by its close box (OnClose). ShowModal always returns: a form that
+// stays loaded even then is recorded as `stuck` and left.
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/user_interface.h"
+
+namespace qvx::platform {
+
+struct MessageBoxRecord {
+  size_t sequence = 0;  // order among all boxes and forms shown
+  std::string text;
+  int style = 0;
+  std::string title;
+  int answer = 0;
+};
+
+// One scripted act of the user on a form.
+struct FormStep {
+  enum class Kind { Click, SetText, Event, Close, Custom };
+  Kind kind = Kind::Click;
+  std::string control;
+  std::string value;  // the text for SetText, the event name for Event
+  std::function<void(FormModel&)> custom;
+};
+
+// The acts on one form, in order. Steps after the form unloads are skipped.
+class FormScript {
+ public:
+  // Raises the control's "Click".
+  FormScript& Click(std::string_view control);
+  // Sets a text box's contents, then raises its "Change".
+  FormScript& SetText(std::string_view control, std::string_view text);
+  // Raises any event of a control.
+  FormScript& Event(std::string_view control, std::string_view event);
+  // Closes the form by its close box.
+  FormScript& Close();
+  // Anything else, done on the model directly.
+  FormScript& Do(std::function<void(FormModel&)> act);
+  const std::vector<FormStep>& steps() const { return steps_; }
+
+ private:
+  std::vector<FormStep> steps_;
+};
+
+struct FormRecord {
+  size_t sequence = 0;
+  std::string caption;
+  int height = 0;                          // when shown
+  std::vector<FormControl> controls;       // snapshot when shown
+  std::vector<FormControl> finalControls;  // snapshot when ShowModal returned
+  int finalHeight = 0;
+  bool closedByCloseBox = false;  // no step unloaded it; OnClose was used
+  bool stuck = false;             // still loaded after OnClose
+};
+
+class ScriptedUserInterface : public UserInterface {
+ public:
+  int MessageBox(std::string_view text, int style, std::string_view title) override;
+  void ShowModal(FormModel& form) override;
+
+  void QueueAnswer(int answer) { answers_.push_back(answer); }
+  void QueueForm(FormScript script) { forms_.push_back(std::move(script)); }
+  // The answer when no answer is queued; nullopt restores the button rule.
+  void SetDefaultAnswer(std::optional<int> answer) { defaultAnswer_ = answer; }
+
+  const std::vector<MessageBoxRecord>& MessageBoxes() const { return boxes_; }
+  const std::vector<FormRecord>& Forms() const { return shownForms_; }
+  size_t PendingAnswers() const { return answers_.size(); }
+  size_t PendingForms() const { return forms_.size(); }
+  // Forgets what was shown and what is queued.
+  void Reset();
+
+  // The first button of a box of this style (OK, Abort, Yes, Retry).
+  static int FirstButton(int style);
+
+ private:
+  static void Apply(FormModel& form, const FormStep& step);
+
+  std::deque<int> answers_;
+  std::deque<FormScript> forms_;
+  std::optional<int> defaultAnswer_;
+  std::vector<MessageBoxRecord> boxes_;
+  std::vector<FormRecord> shownForms_;
+  size_t sequence_ = 0;
+};
+
+}  // namespace qvx::platform
