@@ -40,12 +40,12 @@ struct LaunchRecord {
 };
 
 struct PosixSystemOptions {
-  std::string home;         // "" means $HOME
-  std::string addinFolder;  // "" means $QVX_ADDIN_FOLDER, else the program's folder
-  bool spawn = true;        // false: launches are recorded only
-  bool useXdgOpen = false;  // ShellExecute also runs xdg-open when it is on PATH
+  std::string home{};         // "" means $HOME
+  std::string addinFolder{};  // "" means $QVX_ADDIN_FOLDER, else the program's folder
+  bool spawn = true;          // false: launches are recorded only
+  bool useXdgOpen = false;    // ShellExecute also runs xdg-open when it is on PATH
   // Values that Environment() answers before the real environment.
-  std::map<std::string, std::string> environment;
+  std::map<std::string, std::string> environment{};
 };
 
 class PosixSystemServices : public SystemServices {
