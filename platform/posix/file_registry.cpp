@@ -1,0 +1,317 @@
+#include "platform/posix/file_registry.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <utility>
+
+#include "core/text.h"
+
+namespace qvx::platform {
+namespace {
+
+using regfile::Contents;
+using regfile::Verdict;
+
+// Larger than any registry this program writes; a bigger file is not ours.
+constexpr off_t kMaxFileBytes = 16 * 1024 * 1024;
+
+enum class FileRead { Missing, Unreadable, Read };
+
+FileRead ReadWhole(const std::string& path, std::string& out) {
+  out.clear();
+  // Non-blocking, so that a FIFO or device in its place cannot hang a read.
+  const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+  if (fd < 0) return errno == ENOENT ? FileRead::Missing : FileRead::Unreadable;
+  struct stat st {};
+  FileRead result = FileRead::Read;
+  if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_size > kMaxFileBytes) {
+    result = FileRead::Unreadable;
+  } else {
+    char buffer[8192];
+    while (true) {
+      const ssize_t n = ::read(fd, buffer, sizeof buffer);
+      if (n == 0) break;
+      if (n < 0) {
+        if (errno == EINTR) continue;
+        result = FileRead::Unreadable;
+        break;
+      }
+      out.append(buffer, static_cast<size_t>(n));
+      if (out.size() > static_cast<size_t>(kMaxFileBytes)) {
+        result = FileRead::Unreadable;
+        break;
+      }
+    }
+  }
+  ::close(fd);
+  if (result != FileRead::Read) out.clear();
+  return result;
+}
+
+// mkdir -p of the folder that holds `path`.
+void EnsureParentFolder(const std::string& path) {
+  for (size_t at = path.find('/', 1); at != std::string::npos; at = path.find('/', at + 1)) {
+    ::mkdir(path.substr(0, at).c_str(), 0700);  // an existing folder is fine
+  }
+}
+
+bool WriteAll(int fd, const std::string& text) {
+  size_t done = 0;
+  while (done < text.size()) {
+    const ssize_t n = ::write(fd, text.data() + done, text.size() - done);
+    if (n < 0) {
+      if (errno == EINTR) continue;
+      return false;
+    }
+    done += static_cast<size_t>(n);
+  }
+  return true;
+}
+
+// Serialises writers of one file across processes; best effort: without the
+// lock a write still replaces the file whole.
+class FileLock {
+ public:
+  explicit FileLock(const std::string& path)
+      : fd_(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOCTTY, 0600)) {
+    if (fd_ >= 0) {
+      while (::flock(fd_, LOCK_EX) != 0 && errno == EINTR) {
+      }
+    }
+  }
+  ~FileLock() {
+    if (fd_ >= 0) ::close(fd_);  // closing releases the lock
+  }
+  FileLock(const FileLock&) = delete;
+  FileLock& operator=(const FileLock&) = delete;
+
+ private:
+  int fd_;
+};
+
+bool IsUtf8(std::string_view s) {
+  return SanitizeUtf8(s) == s;
+}
+
+}  // namespace
+
+FileRegistry::FileRegistry(std::string path)
+    : path_(path.empty() ? DefaultLocation() : std::move(path)) {}
+
+std::string FileRegistry::DefaultLocation() {
+  if (const char* file = std::getenv("QVX_REGISTRY_FILE"); file != nullptr && *file != '\0') {
+    return file;
+  }
+  if (const char* data = std::getenv("XDG_DATA_HOME"); data != nullptr && data[0] == '/') {
+    return std::string(data) + "/quorvix/registry.txt";
+  }
+  if (const char* home = std::getenv("HOME"); home != nullptr && *home != '\0') {
+    return std::string(home) + "/.local/share/quorvix/registry.txt";
+  }
+  return "quorvix-registry.txt";
+}
+
+Verdict FileRegistry::Load() {
+  std::string bytes;
+  switch (ReadWhole(path_, bytes)) {
+    case FileRead::Missing:
+      haveLast_ = false;
+      contents_ = Contents{};
+      return Verdict::Empty;
+    case FileRead::Unreadable:
+      haveLast_ = false;
+      contents_ = Contents{};
+      return Verdict::Foreign;
+    case FileRead::Read:
+      break;
+  }
+  if (haveLast_ && bytes == lastBytes_) return lastVerdict_;
+  lastVerdict_ = regfile::Parse(bytes, contents_);
+  lastBytes_ = std::move(bytes);
+  haveLast_ = true;
+  return lastVerdict_;
+}
+
+template <class Change>
+long FileRegistry::Update(Change&& change) {
+  EnsureParentFolder(path_);
+  FileLock lock(path_ + ".lock");
+  const Verdict verdict = Load();
+  if (verdict == Verdict::Foreign) return kErrorAccessDenied;
+  Contents next = contents_;  // empty unless the file was valid
+  const bool changed = std::forward<Change>(change)(next);
+  if (!changed && verdict == Verdict::Valid) return kErrorSuccess;
+  std::string text = regfile::Serialize(next);
+  if (!WriteAtomically(text)) return kErrorAccessDenied;
+  contents_ = std::move(next);
+  lastBytes_ = std::move(text);
+  lastVerdict_ = Verdict::Valid;
+  haveLast_ = true;
+  return kErrorSuccess;
+}
+
+bool FileRegistry::WriteAtomically(const std::string& text) const {
+  std::string name = path_ + ".tmp.XXXXXX";
+  const int fd = ::mkstemp(name.data());
+  if (fd < 0) return false;
+  ::fcntl(fd, F_SETFD, FD_CLOEXEC);
+  const bool written = WriteAll(fd, text) && ::fsync(fd) == 0;
+  const bool closed = ::close(fd) == 0;
+  if (!written || !closed || ::rename(name.c_str(), path_.c_str()) != 0) {
+    ::unlink(name.c_str());
+    return false;
+  }
+  return true;
+}
+
+RegistryApi::Key FileRegistry::HandleFor(const std::string& keyPath) {
+  const std::string folded = FoldCase(keyPath);
+  auto it = handleIndex_.find(folded);
+  if (it == handleIndex_.end()) {
+    it = handleIndex_.emplace(folded, handlePaths_.size()).first;
+    handlePaths_.push_back(keyPath);
+  }
+  ++openHandles_;
+  return static_cast<Key>(it->second + 1);
+}
+
+const std::string* FileRegistry::PathOf(Key key) const {
+  if (key == 0 || key > handlePaths_.size()) return nullptr;
+  return &handlePaths_[key - 1];
+}
+
+long FileRegistry::CreateKey(std::u16string_view subKey, Key& key) {
+  key = 0;
+  const std::string path = Utf16ToUtf8(subKey);
+  if (!path.empty()) {
+    const long result = Update([&](Contents& c) {
+      if (c.HasKey(path)) return false;
+      c.AddKey(path);
+      return true;
+    });
+    if (result != kErrorSuccess) return result;
+  }
+  key = HandleFor(path);
+  return kErrorSuccess;
+}
+
+long FileRegistry::SetStringValue(Key key, std::u16string_view name, std::u16string_view data) {
+  const std::string* path = PathOf(key);
+  if (path == nullptr) return kErrorInvalidHandle;
+  Value value{kRegSz, Utf16ToUtf8(data)};
+  const std::string valueName = Utf16ToUtf8(name);
+  return Update([&](Contents& c) { return c.Set(*path, valueName, std::move(value)); });
+}
+
+long FileRegistry::OpenKey(std::u16string_view subKey, uint32_t, Key& key) {
+  key = 0;
+  const std::string path = Utf16ToUtf8(subKey);
+  Load();
+  if (!path.empty() && !contents_.HasKey(path)) return kErrorFileNotFound;
+  key = HandleFor(path);
+  return kErrorSuccess;
+}
+
+long FileRegistry::QueryValueInfoA(Key key, std::string_view ansiName, uint32_t& type,
+                                   uint32_t& size) {
+  const std::string* path = PathOf(key);
+  if (path == nullptr) return kErrorInvalidHandle;
+  Load();
+  const Value* value = contents_.Find(*path, ansiName);
+  if (value == nullptr) return kErrorFileNotFound;
+  type = value->type;
+  if (regfile::IsTextType(value->type)) {
+    const size_t units = Utf8ToUtf16(value->data).size();
+    size = units == 0 ? 0 : static_cast<uint32_t>(units + 1);
+  } else {
+    size = static_cast<uint32_t>(value->data.size());
+  }
+  return kErrorSuccess;
+}
+
+long FileRegistry::QueryValueW(Key key, std::u16string_view name, std::u16string& buffer) {
+  const std::string* path = PathOf(key);
+  if (path == nullptr) return kErrorInvalidHandle;
+  Load();
+  const Value* value = contents_.Find(*path, Utf16ToUtf8(name));
+  if (value == nullptr) return kErrorFileNotFound;
+  if (regfile::IsTextType(value->type)) {
+    const std::u16string text = Utf8ToUtf16(value->data);
+    if (text.size() > buffer.size()) return kErrorMoreData;
+    text.copy(buffer.data(), text.size());
+    return kErrorSuccess;
+  }
+  const std::string& bytes = value->data;
+  if ((bytes.size() + 1) / 2 > buffer.size()) return kErrorMoreData;
+  for (size_t i = 0; i < bytes.size(); ++i) {
+    const auto b = static_cast<char16_t>(static_cast<unsigned char>(bytes[i]));
+    buffer[i / 2] = static_cast<char16_t>(i % 2 == 0 ? (buffer[i / 2] & 0xFF00) | b
+                                                     : (buffer[i / 2] & 0x00FF) | (b << 8));
+  }
+  return kErrorSuccess;
+}
+
+long FileRegistry::CloseKey(Key key) {
+  if (PathOf(key) == nullptr) return kErrorInvalidHandle;
+  if (openHandles_ > 0) --openHandles_;
+  return kErrorSuccess;
+}
+
+bool FileRegistry::SetValue(std::string_view keyPath, std::string_view name, const Value& value) {
+  if (keyPath.empty() || !IsUtf8(keyPath) || !IsUtf8(name) || !regfile::IsStorable(value)) {
+    return false;
+  }
+  return Update([&](Contents& c) { return c.Set(keyPath, name, value); }) == kErrorSuccess;
+}
+
+bool FileRegistry::SetString(std::string_view keyPath, std::string_view name,
+                             std::string_view text) {
+  return SetValue(keyPath, name, Value{kRegSz, std::string(text)});
+}
+
+bool FileRegistry::SetDword(std::string_view keyPath, std::string_view name, uint32_t value) {
+  std::string bytes;
+  for (int i = 0; i < 4; ++i) bytes += static_cast<char>((value >> (8 * i)) & 0xFF);
+  return SetValue(keyPath, name, Value{kRegDword, std::move(bytes)});
+}
+
+bool FileRegistry::SetBinary(std::string_view keyPath, std::string_view name,
+                             std::string_view bytes) {
+  return SetValue(keyPath, name, Value{kRegBinary, std::string(bytes)});
+}
+
+std::optional<FileRegistry::Value> FileRegistry::ReadValue(std::string_view keyPath,
+                                                           std::string_view name) {
+  Load();
+  const Value* value = contents_.Find(keyPath, name);
+  if (value == nullptr) return std::nullopt;
+  return *value;
+}
+
+std::optional<std::string> FileRegistry::ReadString(std::string_view keyPath,
+                                                    std::string_view name) {
+  std::optional<Value> value = ReadValue(keyPath, name);
+  if (!value || value->type != kRegSz) return std::nullopt;
+  return std::move(value->data);
+}
+
+std::vector<FileRegistry::NamedValue> FileRegistry::ListValues(std::string_view keyPath) {
+  std::vector<NamedValue> out;
+  Load();
+  if (const auto* values = contents_.keys.Find(keyPath)) {
+    for (const auto& entry : *values) out.push_back(NamedValue{entry.key, entry.value});
+  }
+  return out;
+}
+
+bool FileRegistry::KeyExists(std::string_view keyPath) {
+  Load();
+  return contents_.HasKey(keyPath);
+}
+
+}  // namespace qvx::platform
