@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "addin/main_globals.h"
+#include "companion/companion_state.h"
 #include "core/trap.h"
 #include "platform/platform.h"
 #include "support/support_state.h"
@@ -27,6 +28,7 @@ class AddinState final : public FailureSink {
   ErrorState err;
   MainGlobals main;
   SupportState support;
+  CompanionState companion;
 
   platform::RegistryApi& registry() const { return *platform.registry; }
   platform::ObjectFactory& objects() const { return *platform.objects; }
