@@ -1,0 +1,64 @@
+#include "platform/win32/registry_win32.h"
+
+#include "platform/win32/win32_api.h"
+
+#include <string>
+
+namespace qvx::win32 {
+namespace {
+
+// Win32 wants terminated strings; the views need not be.
+std::wstring Terminated(std::u16string_view s) {
+  return std::wstring(reinterpret_cast<const wchar_t*>(s.data()), s.size());
+}
+
+HKEY ToHkey(platform::RegistryApi::Key key) {
+  return reinterpret_cast<HKEY>(key);
+}
+
+}  // namespace
+
+long Win32RegistryApi::CreateKey(std::u16string_view subKey, Key& key) {
+  HKEY handle = nullptr;
+  const long rc = RegCreateKeyW(HKEY_CURRENT_USER, Terminated(subKey).c_str(), &handle);
+  key = rc == ERROR_SUCCESS ? reinterpret_cast<Key>(handle) : 0;
+  return rc;
+}
+
+long Win32RegistryApi::SetStringValue(Key key, std::u16string_view name, std::u16string_view data) {
+  // REG_SZ with twice the character count as bytes: no terminator is written.
+  return RegSetValueExW(ToHkey(key), Terminated(name).c_str(), 0, REG_SZ,
+                        reinterpret_cast<const BYTE*>(data.data()),
+                        static_cast<DWORD>(2 * data.size()));
+}
+
+long Win32RegistryApi::OpenKey(std::u16string_view subKey, uint32_t access, Key& key) {
+  HKEY handle = nullptr;
+  const long rc = RegOpenKeyExW(HKEY_CURRENT_USER, Terminated(subKey).c_str(), 0, access, &handle);
+  key = rc == ERROR_SUCCESS ? reinterpret_cast<Key>(handle) : 0;
+  return rc;
+}
+
+long Win32RegistryApi::QueryValueInfoA(Key key, std::string_view ansiName, uint32_t& type,
+                                       uint32_t& size) {
+  const std::string name(ansiName);
+  DWORD t = 0;
+  DWORD s = 0;
+  const long rc = RegQueryValueExA(ToHkey(key), name.c_str(), nullptr, &t, nullptr, &s);
+  type = t;
+  size = s;
+  return rc;
+}
+
+long Win32RegistryApi::QueryValueW(Key key, std::u16string_view name, std::u16string& buffer) {
+  DWORD type = 0;
+  DWORD bytes = static_cast<DWORD>(2 * buffer.size());
+  return RegQueryValueExW(ToHkey(key), Terminated(name).c_str(), nullptr, &type,
+                          reinterpret_cast<BYTE*>(buffer.data()), &bytes);
+}
+
+long Win32RegistryApi::CloseKey(Key key) {
+  return RegCloseKey(ToHkey(key));
+}
+
+}  // namespace qvx::win32

@@ -1,0 +1,19 @@
+// RegistryApi over the Win32 registry calls, always under HKEY_CURRENT_USER.
+#pragma once
+
+#include "platform/registry_api.h"
+
+namespace qvx::win32 {
+
+class Win32RegistryApi final : public platform::RegistryApi {
+ public:
+  long CreateKey(std::u16string_view subKey, Key& key) override;
+  long SetStringValue(Key key, std::u16string_view name, std::u16string_view data) override;
+  long OpenKey(std::u16string_view subKey, uint32_t access, Key& key) override;
+  // The name is passed through as bytes of the ANSI code page.
+  long QueryValueInfoA(Key key, std::string_view ansiName, uint32_t& type, uint32_t& size) override;
+  long QueryValueW(Key key, std::u16string_view name, std::u16string& buffer) override;
+  long CloseKey(Key key) override;
+};
+
+}  // namespace qvx::win32
