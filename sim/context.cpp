@@ -1,0 +1,14 @@
+#include "sim/context.h"
+
+#include <cstdio>
+
+namespace qvx::sim {
+
+std::string SimContext::NewEntryId() {
+  char buffer[49];
+  std::snprintf(buffer, sizeof buffer, "00000000A1B2C3D4E5F60718293A4B5C0700%012llX",
+                static_cast<unsigned long long>(nextEntryId++));
+  return buffer;
+}
+
+}  // namespace qvx::sim

@@ -1,0 +1,101 @@
+#include "sim/items.h"
+
+#include <algorithm>
+#include <array>
+
+#include "sim/application.h"
+#include "sim/collection.h"
+#include "sim/folder.h"
+#include "sim/item.h"
+
+namespace qvx::sim {
+
+bool SimItems::Contains(const SimItem& item) const {
+  return std::any_of(list_.begin(), list_.end(), [&](const auto& i) { return i.get() == &item; });
+}
+
+std::shared_ptr<SimItem> SimItems::FindByEntryId(std::string_view entryId) const {
+  for (const auto& i : list_) {
+    if (i->EntryId() == entryId) return i;
+  }
+  return nullptr;
+}
+
+void SimItems::Enter(const std::shared_ptr<SimItem>& item) {
+  if (!Contains(*item)) list_.push_back(item);
+  EventArgs args{item->AsVariant()};
+  Raise("ItemAdd", args);
+}
+
+void SimItems::Changed(const std::shared_ptr<SimItem>& item) {
+  EventArgs args{item->AsVariant()};
+  Raise("ItemChange", args);
+}
+
+void SimItems::Remove(const SimItem& item) {
+  if (!Contains(item)) return;
+  std::erase_if(list_, [&](const auto& i) { return i.get() == &item; });
+  Raise("ItemRemove");
+}
+
+std::span<const std::string_view> SimItems::EventNames() const {
+  static constexpr std::array<std::string_view, 3> kEvents{"ItemAdd", "ItemChange", "ItemRemove"};
+  return kEvents;
+}
+
+std::vector<Variant> SimItems::Elements() {
+  return AsVariants(list_);
+}
+
+Variant SimItems::Next() {
+  if (cursor_ >= list_.size()) return Variant(Object());
+  return list_[cursor_++]->AsVariant();
+}
+
+const MemberTable& SimItems::Members() const {
+  static const MemberTable table = [] {
+    MemberTable t;
+    Define<SimItems>(t)
+        .Get("Count", [](SimItems& c) { return Variant(static_cast<int32_t>(c.list_.size())); })
+        .Method("Item", 1, 1,
+                [](SimItems& c, Args& a) {
+                  if (IsPositional(a[0]))
+                    return c.list_[IndexArg(a[0], c.list_.size())]->AsVariant();
+                  // The default property of an item is its Subject.
+                  for (const auto& i : c.list_) {
+                    if (i->Subject() == a[0].ToText()) return i->AsVariant();
+                  }
+                  throw IndexOutOfBounds();
+                })
+        .Method("Add", 0, 1,
+                [](SimItems& c, Args& a) {
+                  auto folder = c.folder_.lock();
+                  if (!folder) throw InvalidParameter();
+                  if (!HasArg(a, 0)) return folder->NewItem()->AsVariant();
+                  if (a[0].IsString()) return folder->NewItem(a[0].ToText())->AsVariant();
+                  return folder->NewItem(a[0].ToLong())->AsVariant();
+                })
+        .Method("GetFirst", 0, 0,
+                [](SimItems& c, Args&) {
+                  c.cursor_ = 0;
+                  return c.Next();
+                })
+        .Method("GetNext", 0, 0, [](SimItems& c, Args&) { return c.Next(); })
+        .Method("GetLast", 0, 0,
+                [](SimItems& c, Args&) {
+                  c.cursor_ = c.list_.size();
+                  return c.list_.empty() ? Variant(Object()) : c.list_.back()->AsVariant();
+                })
+        .Method("Remove", 1, 1,
+                [](SimItems& c, Args& a) {
+                  c.list_[IndexArg(a[0], c.list_.size())]->Delete();
+                  return Variant();
+                })
+        .Method("Sort", 1, 2, [](SimItems&, Args&) { return Variant(); })
+        .Get("Parent", [](SimItems& c) { return OrNothing(c.folder_.lock()); });
+    return t;
+  }();
+  return table;
+}
+
+}  // namespace qvx::sim

@@ -1,0 +1,53 @@
+// SimItems: the items of one folder, in the order they were saved into it.
+//
+// Count, Item (1-based), Add (an unsaved item of the folder's kind, or of the
+// given item type or message class), GetFirst/GetNext/GetLast, Remove and
+// enumeration; the events ItemAdd, ItemChange and ItemRemove. The world and
+// the items call Enter, Changed and Remove, which raise those events.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "sim/sim_object.h"
+
+namespace qvx::sim {
+
+class SimFolder;
+class SimItem;
+
+class SimItems : public SimObject {
+ public:
+  explicit SimItems(std::weak_ptr<SimFolder> folder) : folder_(std::move(folder)) {}
+  std::string TypeName() const override { return "Items"; }
+
+  const std::vector<std::shared_ptr<SimItem>>& list() const { return list_; }
+  size_t size() const { return list_.size(); }
+  bool Contains(const SimItem& item) const;
+  std::shared_ptr<SimItem> FindByEntryId(std::string_view entryId) const;
+
+  // A saved item arrives (ItemAdd), changes (ItemChange) or goes (ItemRemove).
+  void Enter(const std::shared_ptr<SimItem>& item);
+  void Changed(const std::shared_ptr<SimItem>& item);
+  void Remove(const SimItem& item);
+  // Puts a saved item in without events: what was there before anyone listened.
+  void Place(const std::shared_ptr<SimItem>& item) {
+    if (!Contains(*item)) list_.push_back(item);
+  }
+
+ protected:
+  const MemberTable& Members() const override;
+  std::span<const std::string_view> EventNames() const override;
+  std::vector<Variant> Elements() override;
+
+ private:
+  Variant Next();
+
+  std::weak_ptr<SimFolder> folder_;
+  std::vector<std::shared_ptr<SimItem>> list_;
+  size_t cursor_ = 0;  // of GetFirst/GetNext
+};
+
+}  // namespace qvx::sim

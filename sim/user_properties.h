@@ -1,0 +1,84 @@
+// UserProperties and UserProperty of a simulated item.
+//
+// A property keeps its value in the type it was added with, converting what
+// the add-in puts as the host does: olText 1 and olKeywords 11 as text,
+// olNumber 3 as Double, olDateTime 5 as a date (first value 4501-01-01),
+// olYesNo 6 as Boolean, olInteger 20, olPercent 12 and olDuration 7 as Long,
+// olCurrency 14 as Currency. Find and Item by name are case-blind and give
+// Nothing for a name that isn't there; Item by position fails out of range.
+// Add with addToFolderFields True also enters the field in the item's folder.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "sim/sim_object.h"
+
+namespace qvx::sim {
+
+class SimItem;
+class SimUserProperties;
+
+inline constexpr int32_t kOlText = 1;
+inline constexpr int32_t kOlNumber = 3;
+inline constexpr int32_t kOlDateTime = 5;
+inline constexpr int32_t kOlYesNo = 6;
+inline constexpr int32_t kOlDuration = 7;
+inline constexpr int32_t kOlKeywords = 11;
+inline constexpr int32_t kOlPercent = 12;
+inline constexpr int32_t kOlCurrency = 14;
+inline constexpr int32_t kOlInteger = 20;
+
+// The value as a property of `type` stores it; Failure 13 if it can't be.
+Variant ConvertToPropertyType(int32_t type, const Variant& value);
+// The value of a new property of `type`.
+Variant DefaultPropertyValue(int32_t type);
+
+class SimUserProperty : public SimObject {
+ public:
+  SimUserProperty(std::string name, int32_t type);
+  std::string TypeName() const override { return "UserProperty"; }
+
+  const std::string& name() const { return name_; }
+  int32_t type() const { return type_; }
+  const Variant& value() const { return value_; }
+  // Converts as a put through the host does.
+  void SetValue(const Variant& value) { value_ = ConvertToPropertyType(type_, value); }
+
+ protected:
+  const MemberTable& Members() const override;
+
+ private:
+  friend class SimUserProperties;
+  std::string name_;
+  int32_t type_;
+  Variant value_;
+  std::weak_ptr<SimUserProperties> owner_;
+};
+
+class SimUserProperties : public SimObject {
+ public:
+  explicit SimUserProperties(std::weak_ptr<SimItem> item) : item_(std::move(item)) {}
+  std::string TypeName() const override { return "UserProperties"; }
+
+  std::shared_ptr<SimUserProperty> Find(std::string_view name) const;
+  // Adds a property, or returns the one of that name if its type matches.
+  std::shared_ptr<SimUserProperty> Add(std::string_view name, int32_t type,
+                                       bool addToFolderFields = true);
+  void Remove(const SimUserProperty& property);
+  // Test side: the property's value, adding the property if need be.
+  void Set(std::string_view name, int32_t type, const Variant& value);
+  const std::vector<std::shared_ptr<SimUserProperty>>& list() const { return properties_; }
+
+ protected:
+  const MemberTable& Members() const override;
+  std::vector<Variant> Elements() override;
+
+ private:
+  std::weak_ptr<SimItem> item_;
+  std::vector<std::shared_ptr<SimUserProperty>> properties_;
+};
+
+}  // namespace qvx::sim

@@ -1,0 +1,48 @@
+// SimWindow: what explorers and inspectors share: being shown, activated
+// and closed, a caption, and the command bars that the context's hook makes.
+//
+// Activate makes the window the host's active one: the window that was
+// active before gets Deactivate, then this one Activate. Close raises Close
+// while the window is still in its collection, then removes it; the next
+// window in activation order becomes active (Activate), and closing the last
+// window quits the host unless the context says otherwise. A closed window
+// fails every member as the host does.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "sim/context.h"
+#include "sim/sim_object.h"
+
+namespace qvx::sim {
+
+class SimWindow : public SimObject {
+ public:
+  explicit SimWindow(ContextPtr context) : context_(std::move(context)) {}
+
+  virtual std::string Caption() const = 0;
+  void Activate();
+  void Display();
+  void Close();
+  bool displayed() const { return displayed_; }
+  bool closed() const { return closed_; }
+  bool IsActive() const;
+  // The window's command bars: made once by the context's hook, Nothing without one.
+  Object CommandBars();
+  const ContextPtr& context() const { return context_; }
+
+ protected:
+  // Activate, Close, Display, Caption, CommandBars, WindowState, Application, Session.
+  static MemberTable WindowMembers();
+  void CheckUsable() const override;
+
+ private:
+  ContextPtr context_;
+  bool displayed_ = false;
+  bool closed_ = false;
+  int32_t windowState_ = 0;  // olMaximized
+  Object commandBars_;
+};
+
+}  // namespace qvx::sim
