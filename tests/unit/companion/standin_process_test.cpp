@@ -14,8 +14,11 @@
 #include <string>
 #include <vector>
 
+#include "apps/QuorvixClient/post_message.h"
 #include "apps/QuorvixClient/standin_main.h"
 #include "companion/command_lines.h"
+#include "companion/message_names.h"
+#include "platform/posix/socket_message_windows.h"
 
 extern char** environ;
 
@@ -61,7 +64,8 @@ class StandInProcess : public ::testing::Test {
   void TearDown() override { fs::remove_all(dir_); }
 
   // Starts the program with these arguments and the journal in the test's folder.
-  pid_t Start(const std::string& program, const std::vector<std::string>& args, int tag) {
+  pid_t Start(const std::string& program, const std::vector<std::string>& args, int tag,
+              const std::vector<std::string>& extraEnv = {}) {
     const std::string path = folder_ + "/" + program + ".exe";
     std::vector<std::string> argv{path};
     argv.insert(argv.end(), args.begin(), args.end());
@@ -70,6 +74,7 @@ class StandInProcess : public ::testing::Test {
     cargv.push_back(nullptr);
 
     std::vector<std::string> env{"QVX_COMPANION_JOURNAL=" + journal_.string()};
+    env.insert(env.end(), extraEnv.begin(), extraEnv.end());
     for (char** e = environ; *e != nullptr; ++e) {
       if (std::string_view(*e).rfind("QVX_COMPANION_JOURNAL=", 0) != 0) env.emplace_back(*e);
     }
@@ -100,8 +105,9 @@ class StandInProcess : public ::testing::Test {
     return run;
   }
 
-  ProcessResult RunOnce(const std::string& program, const std::vector<std::string>& args) {
-    return Wait(Start(program, args, 0), 0);
+  ProcessResult RunOnce(const std::string& program, const std::vector<std::string>& args,
+                        const std::vector<std::string>& extraEnv = {}) {
+    return Wait(Start(program, args, 0, extraEnv), 0);
   }
 
   std::vector<std::string> JournalLines() {
@@ -206,6 +212,48 @@ TEST_F(StandInProcess, ConcurrentCallsKeepTheirLinesWhole) {
   }
   std::sort(expected.begin(), expected.end());
   EXPECT_EQ(lines, expected);
+}
+
+TEST_F(StandInProcess, ClientPostsTheChannelMessageWhenAsked) {
+  // A window namespace of this test's own, in this process and the child.
+  const std::string space = "standin-test-" + std::to_string(getpid());
+  ASSERT_EQ(setenv("QVX_WINDOW_NAMESPACE", space.c_str(), 1), 0);
+  platform::SocketMessageWindows windows;
+  std::vector<std::pair<uint32_t, intptr_t>> received;
+  auto listener = windows.CreateListener(companion::kClientWindowCaption,
+                                         [&](uint32_t message, intptr_t wParam, intptr_t) {
+                                           received.emplace_back(message, wParam);
+                                           return true;
+                                         });
+  ASSERT_NE(listener, nullptr);
+
+  const ProcessResult run = RunOnce("QuorvixClient", {companion::WithdrawCommand("S", "E", "")},
+                                    {"QVX_WINDOW_NAMESPACE=" + space, "QVX_CLIENT_POST_MESSAGE=2"});
+  EXPECT_EQ(run.exitCode, kExitAccepted) << run.stderrText;
+  EXPECT_EQ(windows.DispatchPending(), 1u);
+  ASSERT_EQ(received.size(), 1u);
+  EXPECT_EQ(received[0].first, windows.RegisterMessage(companion::kClientMessageName));
+  EXPECT_EQ(received[0].second, companion::kClientItemsChanged);
+
+  // No post for a rejected call, and a bad value is refused.
+  EXPECT_EQ(RunOnce("QuorvixClient", {"7"},
+                    {"QVX_WINDOW_NAMESPACE=" + space, "QVX_CLIENT_POST_MESSAGE=2"})
+                .exitCode,
+            kExitRejected);
+  EXPECT_EQ(RunOnce("QuorvixClient", {"6"},
+                    {"QVX_WINDOW_NAMESPACE=" + space, "QVX_CLIENT_POST_MESSAGE=two"})
+                .exitCode,
+            kExitNotPosted);
+  EXPECT_EQ(windows.DispatchPending(), 0u);
+  listener.reset();
+
+  // With no listener window the post fails and says so.
+  const ProcessResult lonely = RunOnce(
+      "QuorvixClient", {"15"}, {"QVX_WINDOW_NAMESPACE=" + space, "QVX_CLIENT_POST_MESSAGE=0"});
+  EXPECT_EQ(lonely.exitCode, kExitNotPosted);
+  EXPECT_NE(lonely.stderrText.find(std::string(companion::kClientWindowCaption)),
+            std::string::npos);
+  unsetenv("QVX_WINDOW_NAMESPACE");
 }
 
 }  // namespace
