@@ -160,7 +160,7 @@ bool FileRegistry::WriteAtomically(const std::string& text) const {
   const int fd = ::mkstemp(name.data());
   if (fd < 0) return false;
   ::fcntl(fd, F_SETFD, FD_CLOEXEC);
-  const bool written = WriteAll(fd, text) && ::fsync(fd) == 0;
+  const bool written = WriteAll(fd, text);
   const bool closed = ::close(fd) == 0;
   if (!written || !closed || ::rename(name.c_str(), path_.c_str()) != 0) {
     ::unlink(name.c_str());

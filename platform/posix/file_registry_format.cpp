@@ -175,6 +175,7 @@ Verdict Parse(std::string_view text, Contents& out) {
   out = Contents{};
   if (text.empty()) return Verdict::Empty;
   constexpr std::string_view kFamily = "QVX registry";
+  if (kHeader.substr(0, text.size()) == text) return Verdict::Damaged;  // cut in the header
   if (text.substr(0, kFamily.size()) != kFamily) return Verdict::Foreign;
   const size_t headerEnd = text.find('\n');
   if (headerEnd == std::string_view::npos) return Verdict::Damaged;

@@ -1,0 +1,120 @@
+// A whole add-in state for the settings tests: the file registry on a
+// temporary file, a user interface that records boxes and the forms shown
+// (the error report's "txtReport" text), a fixed clock, and an inert host in
+// objOutlook so that the central reporter needs no Outlook.
+#pragma once
+
+#include <stdlib.h>
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "addin/state.h"
+#include "core/dates.h"
+#include "platform/posix/file_registry.h"
+
+namespace qvx::testing {
+
+inline constexpr const char* kQvxKey = "Software\\Zenbrook\\QVX";
+
+class RecordingUi final : public platform::UserInterface {
+ public:
+  struct Box {
+    std::string text;
+    int style;
+    std::string title;
+  };
+  int MessageBox(std::string_view text, int style, std::string_view title) override {
+    boxes.push_back(Box{std::string(text), style, std::string(title)});
+    return platform::msgbox::kOk;
+  }
+  void ShowModal(platform::FormModel& form) override {
+    const platform::FormControl* report = form.Find("txtReport");
+    reports.push_back(report != nullptr ? report->text : std::string());
+  }
+  std::vector<Box> boxes;
+  std::vector<std::string> reports;  // txtReport of each form shown
+};
+
+class FixedSystem final : public platform::SystemServices {
+ public:
+  DateValue now = ComposeDate(DateParts{2026, 3, 14, 15, 9, 26});
+  std::string SpecialFolder(int, int) override { return "/tmp"; }
+  std::string AddinFolder() override { return "/opt/qvx"; }
+  bool FileExists(std::string_view) override { return false; }
+  bool FolderExists(std::string_view) override { return false; }
+  bool CreateFolder(std::string_view) override { return false; }
+  bool AppendToFile(std::string_view, std::string_view) override { return false; }
+  long ShellExecute(std::string_view) override { return 0; }
+  bool Launch(std::string_view, std::string_view, int) override { return false; }
+  bool RunCommandLine(std::string_view, int) override { return false; }
+  std::string Environment(std::string_view) override { return {}; }
+  DateValue Now() override { return now; }
+  void DoEvents() override {}
+};
+
+class NoObjects final : public platform::ObjectFactory {
+ public:
+  Object CreateObject(std::string_view) override { throw Failure::Runtime(429); }
+  Object GetObject(std::string_view) override { throw Failure::Runtime(429); }
+};
+
+// Answers every member with 438, like a host that has none.
+class InertHost final : public HostObject {
+ public:
+  Variant Invoke(std::string_view, InvokeKind, std::vector<Variant>&) override {
+    throw Failure::Runtime(err::kNoSuchMember);
+  }
+  std::string TypeName() const override { return "Application"; }
+  std::vector<Variant> Enumerate() override { return {}; }
+  Subscription Subscribe(std::string_view, EventHandler) override { return {}; }
+};
+
+// A folder that is removed with the fixture.
+class TempFolder {
+ public:
+  TempFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "qvx-settings-XXXXXX").string();
+    path_ = mkdtemp(pattern.data());
+  }
+  ~TempFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+  std::string File(std::string_view name) const { return path_ + "/" + std::string(name); }
+
+ private:
+  std::string path_;
+};
+
+struct SettingsFixture {
+  explicit SettingsFixture(platform::RegistryApi* registryOverride = nullptr)
+      : registry(folder.File("registry.txt")),
+        s(platform::Platform{.registry = registryOverride ? registryOverride : &registry,
+                             .objects = &objects,
+                             .ui = &ui,
+                             .system = &system,
+                             .windows = nullptr}) {
+    s.main.objOutlook = Object(std::make_shared<InertHost>());
+  }
+
+  TempFolder folder;
+  platform::FileRegistry registry;
+  RecordingUi ui;
+  FixedSystem system;
+  NoObjects objects;
+  AddinState s;
+};
+
+// The first line of a report, "At Line: 20", and its label line.
+inline std::string ReportLine(const std::string& report, size_t index) {
+  size_t start = 0;
+  for (size_t i = 0; i < index; ++i) start = report.find("\r\n", start) + 2;
+  return report.substr(start, report.find("\r\n", start) - start);
+}
+
+}  // namespace qvx::testing
