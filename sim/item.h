@@ -35,6 +35,15 @@ inline constexpr int32_t kClassAppointment = 26;
 inline constexpr int32_t kClassMail = 43;
 inline constexpr int32_t kClassTask = 48;
 
+// The host's item types (OlItemType) and recurrence states.
+inline constexpr int32_t kMailItem = 0;
+inline constexpr int32_t kAppointmentItem = 1;
+inline constexpr int32_t kTaskItem = 3;
+inline constexpr int32_t kNotRecurring = 0;
+inline constexpr int32_t kRecurrenceMaster = 1;
+inline constexpr int32_t kRecurrenceOccurrence = 2;
+inline constexpr int32_t kRecurrenceException = 3;
+
 class SimItem : public SimObject {
  public:
   SimItem(ContextPtr context, int32_t objectClass, std::string messageClass);
