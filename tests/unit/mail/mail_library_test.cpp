@@ -4,7 +4,10 @@
 
 #include "core/dates.h"
 #include "platform/user_interface.h"
+#include "sim/appointment.h"
 #include "sim/mail_library_standin.h"
+#include "sim/outlook.h"
+#include "sim/user_properties.h"
 #include "unit/mail/fake_item.h"
 #include "unit/reporting/test_addin.h"
 
@@ -192,6 +195,27 @@ TEST_F(MailLibraryTest, SendWithoutTheLibraryNeitherSendsNorShows) {
   EXPECT_TRUE(t.ui.MessageBoxes().empty());
   EXPECT_TRUE(t.Reports().empty());
   EXPECT_FALSE(t.s.err.pending());
+}
+
+TEST(MailLibraryOnSimulatedItems, ReadsTheCompanionsPropertiesOfASimulatedAppointment) {
+  testing::TestAddin t;
+  MailLibraryStandIn library(With([](MailLibraryOptions& o) { o.utcOffsetHours = -5.0; }));
+  library.Install(t.objects);
+  sim::Outlook world;
+  auto meeting = world.AddAppointment("Planning", DateSerial(2026, 3, 2), DateSerial(2026, 3, 3));
+  const DateValue reportedOn = ComposeDate({2026, 3, 4, 10, 0, 0});
+  world.ChangeUserProperty(*meeting, "ReportedID", sim::kOlText, Variant("77"));
+  world.ChangeUserProperty(*meeting, "ReportedDate", sim::kOlDateTime, Variant(reportedOn));
+  const Object item = meeting->AsObject();
+
+  EXPECT_EQ(GetFieldValueFromItem(t.s, item, "ReportedID", VarType::String), Variant("77"));
+  const Variant date = GetFieldValueFromItem(t.s, item, "ReportedDate", VarType::Date);
+  ASSERT_NE(date.As<DateValue>(), nullptr);
+  EXPECT_NEAR(date.As<DateValue>()->serial, reportedOn.serial, 1e-9);
+  EXPECT_EQ(GetFieldValueFromItem(t.s, item, "ProjectValue", VarType::String), Variant(""));
+  EXPECT_EQ(library.record().getOneProp, 2);
+  EXPECT_EQ(library.record().idsFromNames, 3);
+  EXPECT_TRUE(t.ui.MessageBoxes().empty());
 }
 
 }  // namespace
