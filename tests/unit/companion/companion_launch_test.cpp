@@ -2,12 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <unistd.h>
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <string>
 
 #include "companion/command_lines.h"
 #include "companion/section_codes.h"
 #include "platform/user_interface.h"
 #include "support/endpoints.h"
+#include "support/file_module.h"
 #include "unit/reporting/test_addin.h"
 
 namespace qvx {
@@ -114,6 +120,34 @@ TEST(CompanionLaunchMissing, AMissingCompanionIsToldByTheLauncherOnly) {
   EXPECT_EQ(t.ui.MessageBoxes()[0].text.rfind("Exception occured when running the file ", 0), 0u);
   EXPECT_EQ(t.s.companion.lngLastSection, companion::kSectionAutoSync);
   EXPECT_TRUE(t.Reports().empty());
+}
+
+TEST(CompanionLaunchEndToEnd, TheStartedStandInGetsEachCommandWhole) {
+  ASSERT_FALSE(StandInFolder().empty());
+  const std::filesystem::path journal =
+      std::filesystem::temp_directory_path() / ("qvx-launch-" + std::to_string(getpid()) + ".txt");
+  std::filesystem::remove(journal);
+  ASSERT_EQ(setenv("QVX_COMPANION_JOURNAL", journal.c_str(), 1), 0);
+  platform::PosixSystemOptions options;
+  options.addinFolder = StandInFolder();
+  testing::TestAddin t(options);
+
+  const std::string occurrence = companion::ReportCommand(
+      "S", {companion::ReportEntry("E1", ""), companion::ReportEntry("E2", "3/7/2010 9:30:00 AM")});
+  subLoadSection(t.s, companion::kSectionAutoSync);
+  FileModule::RunApp(t.s, companion::kClientProgram, occurrence, "");
+  t.system.WaitForChildren();
+  unsetenv("QVX_COMPANION_JOURNAL");
+
+  std::ifstream in(journal);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  std::filesystem::remove(journal);
+  std::sort(lines.begin(), lines.end());  // the two ran side by side
+  const std::vector<std::string> expected{"QuorvixClient\treport\t" + occurrence,
+                                          "QuorvixClient\tsection\t28"};
+  EXPECT_EQ(lines, expected);
+  EXPECT_TRUE(t.ui.MessageBoxes().empty());
 }
 
 }  // namespace
