@@ -45,7 +45,7 @@ int AfterAccept(const qvx::standin::Verdict&, std::string_view) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const qvx::standin::StandInSpec spec{"QuorvixClient", kUsage, qvx::standin::CheckClientArgument,
-                                       AfterAccept};
-  return qvx::standin::RunStandIn(spec, argc, argv);
+  const qvx::standin::StandInProgram standIn{"QuorvixClient", kUsage,
+                                             qvx::standin::CheckClientArgument, AfterAccept};
+  return qvx::standin::RunStandIn(standIn, argc, argv);
 }

@@ -15,16 +15,16 @@ void Fail(std::string_view program, const std::string& error) {
 
 }  // namespace
 
-int RunStandIn(const StandInSpec& spec, int argc, char** argv) {
+int RunStandIn(const StandInProgram& standIn, int argc, char** argv) {
   if (argc == 2 && std::string_view(argv[1]) == "--help") {
-    std::fwrite(spec.usage.data(), 1, spec.usage.size(), stdout);
+    std::fwrite(standIn.usage.data(), 1, standIn.usage.size(), stdout);
     return kExitAccepted;
   }
   std::string argument;
   Verdict verdict;
   if (argc == 2) {
     argument = argv[1];
-    verdict = spec.check(argument);
+    verdict = standIn.check(argument);
   } else {
     for (int i = 1; i < argc; ++i) argument += (i > 1 ? " " : "") + std::string(argv[i]);
     verdict.error = "expected exactly one argument, got " + std::to_string(argc - 1);
@@ -34,17 +34,17 @@ int RunStandIn(const StandInSpec& spec, int argc, char** argv) {
   std::string journalError;
   const bool journalled = AppendJournalLine(
       JournalPath(),
-      JournalLine(spec.program, verdict.accepted() ? verdict.kind : "rejected", argument),
+      JournalLine(standIn.program, verdict.accepted() ? verdict.kind : "rejected", argument),
       journalError);
   if (!verdict.accepted()) {
-    Fail(spec.program, verdict.error);
+    Fail(standIn.program, verdict.error);
     return kExitRejected;
   }
   if (!journalled) {
-    Fail(spec.program, journalError);
+    Fail(standIn.program, journalError);
     return kExitJournalFailed;
   }
-  return spec.afterAccept ? spec.afterAccept(verdict, argument) : kExitAccepted;
+  return standIn.afterAccept ? standIn.afterAccept(verdict, argument) : kExitAccepted;
 }
 
 }  // namespace qvx::standin

@@ -17,7 +17,7 @@ inline constexpr int kExitAccepted = 0;
 inline constexpr int kExitRejected = 2;
 inline constexpr int kExitJournalFailed = 3;
 
-struct StandInSpec {
+struct StandInProgram {
   std::string_view program;  // "QuorvixClient"
   std::string_view usage;    // printed by --help
   std::function<Verdict(std::string_view)> check;
@@ -25,6 +25,6 @@ struct StandInSpec {
   std::function<int(const Verdict&, std::string_view argument)> afterAccept;
 };
 
-int RunStandIn(const StandInSpec& spec, int argc, char** argv);
+int RunStandIn(const StandInProgram& standIn, int argc, char** argv);
 
 }  // namespace qvx::standin

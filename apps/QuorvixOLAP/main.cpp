@@ -23,7 +23,7 @@ constexpr std::string_view kUsage =
 }  // namespace
 
 int main(int argc, char** argv) {
-  const qvx::standin::StandInSpec spec{"QuorvixOLAP", kUsage, qvx::standin::CheckStatisticsArgument,
-                                       nullptr};
-  return qvx::standin::RunStandIn(spec, argc, argv);
+  const qvx::standin::StandInProgram standIn{"QuorvixOLAP", kUsage,
+                                             qvx::standin::CheckStatisticsArgument, nullptr};
+  return qvx::standin::RunStandIn(standIn, argc, argv);
 }
