@@ -12,7 +12,8 @@ struct SupportState {
   // Error reporting: only the first report of the process is shown.
   bool firstReportShown = false;
   std::string strCurrentAction;
-  bool traceFlag = false;  // nothing sets it: the log stays off
+  bool traceFlag = false;   // nothing sets it: the log stays off
+  bool writingLog = false;  // breaks the loop log -> log folder -> file object -> log
   // File and process services.
   Object objFSO;
   bool fileSystemRepairTried = false;

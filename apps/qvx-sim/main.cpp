@@ -1,2 +1,5 @@
 #include <cstdio>
-int main() { std::puts("qvx-sim"); return 0; }
+int main() {
+  std::puts("qvx-sim");
+  return 0;
+}

@@ -1,8 +1,9 @@
 // The scenario language's lines and words.
 //
 // A scenario is plain text, one statement a line. A line is words separated
-// by blanks; a word in double quotes may hold blanks and the escapes \" \\
-// \n \r \t. "#" outside quotes starts a comment. Blank lines are skipped.
+// by blanks; a word in double quotes may hold blanks and the escapes
+// \" \\ \n \r \t (backslash-quote, backslash-backslash, newline, return, tab). "#" outside quotes
+// starts a comment. Blank lines are skipped.
 #pragma once
 
 #include <optional>

@@ -8,7 +8,7 @@
 #include "sim/mail_library_standin.h"
 #include "sim/outlook.h"
 #include "sim/user_properties.h"
-#include "unit/mail/fake_item.h"
+#include "unit/mail/mail_test_item.h"
 #include "unit/reporting/test_addin.h"
 
 namespace qvx {
@@ -28,7 +28,7 @@ MailLibraryOptions With(void (*set)(MailLibraryOptions&)) {
 
 struct MailLibraryTest : ::testing::Test {
   testing::TestAddin t;
-  testing::FakeItem item;
+  testing::MailTestItem item;
   DateValue reportedOn = ComposeDate({2026, 3, 14, 15, 9, 26});
 
   void SetUp() override {

@@ -12,9 +12,9 @@
 
 namespace qvx::testing {
 
-class FakeItem {
+class MailTestItem {
  public:
-  FakeItem() : object_(std::make_shared<platform::NativeObject>("AppointmentItem")) {
+  MailTestItem() : object_(std::make_shared<platform::NativeObject>("AppointmentItem")) {
     auto properties = std::make_shared<platform::NativeObject>("UserProperties");
     properties->Define("Find", [this](InvokeKind, std::vector<Variant>& args) {
       auto it = properties_.find(FoldCase(platform::RequiredArg(args, 0).ToText()));
@@ -30,7 +30,7 @@ class FakeItem {
   }
 
   // Adds or replaces a property and its value.
-  FakeItem& Set(const std::string& name, Variant value) {
+  MailTestItem& Set(const std::string& name, Variant value) {
     auto property = std::make_shared<platform::NativeObject>("UserProperty");
     auto held = std::make_shared<Variant>(std::move(value));
     property->Define("Value", [held](InvokeKind kind, std::vector<Variant>& args) {

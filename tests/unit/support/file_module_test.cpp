@@ -1,0 +1,201 @@
+#include "support/file_module.h"
+
+#include <filesystem>
+#include <fstream>
+
+#include "support/error_reporting.h"
+#include "support/scripting.h"
+#include "support_fixture.h"
+
+namespace qvx::testing {
+namespace {
+
+namespace fs = std::filesystem;
+namespace msgbox = platform::msgbox;
+
+class RunAppTest : public SupportTest {
+ protected:
+  RunAppTest() {
+    Touch(fs::path(AddinFolder()) / "QuorvixClient.exe");
+    Touch(fs::path(Other()) / "Other.exe");
+  }
+  std::string Other() const { return Home() + "/other"; }
+  std::string InAddin(std::string_view exe) const {
+    return AddinFolder() + "\\" + std::string(exe);
+  }
+};
+
+TEST_F(RunAppTest, ProgramsAndLinks) {
+  struct Row {
+    std::string name, parameters, folder;
+    std::string path, argument;  // the one launch expected
+  };
+  const std::vector<Row> rows = {
+      {"QuorvixClient", "0|S|e1;1/2/2026", "", InAddin("QuorvixClient.exe"), "0|S|e1;1/2/2026"},
+      {"Other", "x y", Other() + "\\", Other() + "\\Other.exe", "x y"},
+      {"Other", "x", Other(), Other() + "\\Other.exe", "x"},
+      // The folder lacks the program: the add-in's own folder, without a word.
+      {"QuorvixClient", "6", Other() + "\\", InAddin("QuorvixClient.exe"), "6"},
+      {"QuorvixClient", "", "", InAddin("QuorvixClient.exe"), ""},
+      // Links: folder and parameters are not looked at.
+      {"http://www.example.invalid/a.asp", "p", "f", "http://www.example.invalid/a.asp", ""},
+      {"hTTpS://X.example.invalid", "p", "", "hTTpS://X.example.invalid", ""},
+      {"mailto:someone@example.invalid", "", "", "mailto:someone@example.invalid", ""},
+      {"Mailbox", "p", Other(), "Mailbox", ""},
+  };
+  for (const Row& row : rows) {
+    system.ClearRecords();
+    FileModule::RunApp(s, row.name, row.parameters, row.folder);
+    ASSERT_EQ(system.Launches().size(), 1u) << row.name;
+    EXPECT_EQ(system.Launches()[0].path, row.path) << row.name;
+    EXPECT_EQ(system.Launches()[0].argument, row.argument) << row.name;
+    EXPECT_EQ(system.Launches()[0].windowStyle, 1) << row.name;
+  }
+  EXPECT_TRUE(ui.MessageBoxes().empty());
+  EXPECT_TRUE(ui.Forms().empty());
+}
+
+TEST_F(RunAppTest, WithoutAShellObjectTheQuotedCommandGoesToShellOpen) {
+  objects.Refuse("Wscript.Shell");
+  FileModule::RunApp(s, "QuorvixClient", "", "");
+  FileModule::RunApp(s, "QuorvixClient", "6", "");
+  FileModule::RunApp(s, "HTTP://x.example.invalid", "6", "");
+  EXPECT_TRUE(system.Launches().empty());
+  EXPECT_EQ(system.ShellOpens(),
+            (std::vector<std::string>{"\"" + InAddin("QuorvixClient.exe") + "\" ",
+                                      "\"" + InAddin("QuorvixClient.exe") + "\" 6",
+                                      "HTTP://x.example.invalid"}));
+  // The shell object's library was registered again each time it was missing.
+  EXPECT_EQ(system.CommandLines().front(), "regsvr32 wshom.ocx /s");
+}
+
+TEST_F(RunAppTest, AMissingProgramIsToldWithItsPath) {
+  FileModule::RunApp(s, "Missing", "x", Other());
+  FileModule::RunApp(s, "QuorvixClient.exe", "x", "");  // ".exe" is always appended
+  EXPECT_TRUE(system.Launches().empty());
+  ASSERT_EQ(ui.MessageBoxes().size(), 2u);
+  EXPECT_EQ(ui.MessageBoxes()[0].text,
+            "Exception occured when running the file " + InAddin("Missing.exe") + "\r\n");
+  EXPECT_EQ(ui.MessageBoxes()[0].style, msgbox::kCritical);
+  EXPECT_EQ(ui.MessageBoxes()[0].title, "Quorvix Client Addin");
+  EXPECT_EQ(ui.MessageBoxes()[1].text,
+            "Exception occured when running the file " + InAddin("QuorvixClient.exe.exe") + "\r\n");
+}
+
+TEST_F(RunAppTest, AFailedStartIsSilent) {
+  system.SetSpawn(true);  // the file is empty and not executable: the start fails
+  FileModule::RunApp(s, "QuorvixClient", "6", "");
+  ASSERT_EQ(system.Launches().size(), 1u);
+  EXPECT_FALSE(system.Launches()[0].started);
+  EXPECT_TRUE(ui.MessageBoxes().empty());
+  EXPECT_TRUE(ui.Forms().empty());
+  EXPECT_FALSE(s.err.pending());
+}
+
+TEST_F(RunAppTest, TheLaunchedProgramGetsTheParametersAsOneArgument) {
+  const fs::path program = fs::path(AddinFolder()) / "Echo.exe";
+  const fs::path out = fs::path(Home()) / "argv.txt";
+  {
+    std::ofstream script(program);
+    script << "#!/bin/sh\nprintf '%s\\n' \"$#\" \"$1\" > '" << out.string() << "'\n";
+  }
+  fs::permissions(program, fs::perms::owner_all);
+  system.SetSpawn(true);
+  const std::string parameters = "0|Store ID|0001;1/2/2026 3:04:05 PM|\"q\" *";
+  FileModule::RunApp(s, "Echo", parameters, "");
+  system.WaitForChildren();
+  std::ifstream in(out);
+  std::string count, argument;
+  std::getline(in, count);
+  std::getline(in, argument);
+  EXPECT_EQ(count, "1");
+  EXPECT_EQ(argument, parameters);
+}
+
+TEST_F(RunAppTest, RecordsTheActionsUnderWay) {
+  FileModule::RunApp(s, "QuorvixClient", "6", "");
+  EXPECT_EQ(s.support.strCurrentAction,
+            "Attempting to execute the path '" + InAddin("QuorvixClient.exe") + "'");
+}
+
+TEST_F(SupportTest, RemoveTrailingSlashRemovesOneAndClearsTheError) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"C:\\a\\", "C:\\a"}, {"/x/", "/x"}, {"C:\\a\\\\", "C:\\a\\"},
+      {"C:\\a", "C:\\a"},   {"", ""},      {"\\", ""}};
+  for (const auto& [in, out] : rows) {
+    s.err.Set(Failure(5, "x", "y"));
+    EXPECT_EQ(RemoveTrailingSlash(s, in), out) << in;
+    EXPECT_FALSE(s.err.pending());
+  }
+}
+
+TEST_F(SupportTest, SpecialFolderFiveIsTheDocuments) {
+  EXPECT_EQ(GetSpecialFolder(s, 5, 0), Home() + "/Documents");
+}
+
+TEST_F(SupportTest, ShellOpenClearsTheErrorTheOtherWrapperLeavesIt) {
+  s.err.Set(Failure(5, "x", "y"));
+  ShellOpenLeavingError(s, "a");
+  EXPECT_TRUE(s.err.pending());
+  ShellOpen(s, "b");
+  EXPECT_FALSE(s.err.pending());
+  EXPECT_EQ(system.ShellOpens(), (std::vector<std::string>{"a", "b"}));
+}
+
+TEST_F(SupportTest, FileSystemObjectIsMadeOnceAndRecordsTheAction) {
+  FileModule::Initialize(s);
+  ASSERT_FALSE(s.support.objFSO.IsNothing());
+  EXPECT_EQ(s.support.strCurrentAction, "problem with scrrun.dll");
+  const Object first = s.support.objFSO;
+  FileModule::Initialize(s);
+  EXPECT_TRUE(s.support.objFSO.Is(first));
+  EXPECT_TRUE(system.CommandLines().empty());
+}
+
+TEST_F(SupportTest, AMissingFileSystemLibraryIsRepairedOnceAndLeftEmpty) {
+  objects.Refuse("Scripting.FileSystemObject");
+  FileModule::Initialize(s);
+  FileModule::Initialize(s);
+  EXPECT_TRUE(s.support.objFSO.IsNothing());
+  EXPECT_EQ(system.CommandLines(), std::vector<std::string>{"regsvr32 scrrun.dll /s"});
+  EXPECT_FALSE(s.err.pending());
+  EXPECT_TRUE(ui.MessageBoxes().empty());
+  EXPECT_TRUE(ui.Forms().empty());
+}
+
+TEST_F(SupportTest, TheFileSystemObjectMayComeFromTheHost) {
+  objects.Refuse("Scripting.FileSystemObject");
+  outlook.hostCreates = platform::MakeFileSystemObject(system);
+  ConnectHost();
+  FileModule::Initialize(s);
+  EXPECT_TRUE(s.support.objFSO.Is(outlook.hostCreates));
+  EXPECT_EQ(outlook.hostCreateObjectRequests,
+            std::vector<std::string>{"Scripting.FileSystemObject"});
+}
+
+TEST_F(SupportTest, DictionaryHasTextCompare) {
+  Object dictionary = Scripting::Initialize(s);
+  ASSERT_FALSE(dictionary.IsNothing());
+  EXPECT_EQ(dictionary.Get("CompareMode").ToLong(), 1);
+}
+
+TEST_F(SupportTest, AMissingDictionaryLibraryIsRepairedOnceAndGivesNothing) {
+  objects.Refuse("Scripting.Dictionary");
+  EXPECT_TRUE(Scripting::Initialize(s).IsNothing());
+  EXPECT_TRUE(Scripting::Initialize(s).IsNothing());
+  EXPECT_EQ(system.CommandLines(), std::vector<std::string>{"regsvr32 scrrun.dll /s"});
+  objects.Allow("Scripting.Dictionary");
+  EXPECT_FALSE(Scripting::Initialize(s).IsNothing());
+}
+
+TEST_F(SupportTest, ShellObjectRepairIsTriedOnEachMissingCreation) {
+  objects.Refuse("Wscript.Shell");
+  EXPECT_TRUE(Scripting::GetWS(s).IsNothing());
+  EXPECT_FALSE(s.err.pending());
+  objects.Allow("Wscript.Shell");
+  EXPECT_EQ(Scripting::GetWS(s).TypeName(), "IWshShell3");
+  EXPECT_EQ(system.CommandLines(), std::vector<std::string>{"regsvr32 wshom.ocx /s"});
+}
+
+}  // namespace
+}  // namespace qvx::testing

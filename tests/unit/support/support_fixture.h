@@ -1,0 +1,72 @@
+// An add-in state over the POSIX platform for the support services' tests:
+// launches recorded and not spawned, boxes and forms answered by the scripted
+// user interface, a fake host that can be connected or left running, and a
+// private home folder.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <string>
+
+#include "addin/state.h"
+#include "fake_outlook.h"
+#include "platform/posix/posix_objects.h"
+#include "platform/posix/posix_system.h"
+#include "platform/posix/scripted_ui.h"
+
+namespace qvx::testing {
+
+class SupportTest : public ::testing::Test {
+ protected:
+  SupportTest() : root_(MakeRoot()), system(Options(root_)), objects(system) {}
+  ~SupportTest() override { std::filesystem::remove_all(root_); }
+
+  // The host is the add-in's connected Application.
+  void ConnectHost() { s.main.objOutlook = outlook.Application(); }
+  // The host runs and can be attached to by GetObject.
+  void HostRunning() {
+    objects.RegisterRunning("Outlook.Application", [this] { return outlook.Application(); });
+  }
+  std::string Home() const { return (root_ / "home").string(); }
+  std::string AddinFolder() const { return (root_ / "addin").string(); }
+  // Creates an empty file.
+  static void Touch(const std::filesystem::path& path) {
+    std::filesystem::create_directories(path.parent_path());
+    FILE* f = std::fopen(path.c_str(), "w");
+    if (f != nullptr) std::fclose(f);
+  }
+
+ private:
+  static std::filesystem::path MakeRoot() {
+    const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
+    auto root = std::filesystem::temp_directory_path() /
+                ("qvx_support_" + std::to_string(::getpid()) + "_" + info->test_suite_name() + "_" +
+                 info->name());
+    std::filesystem::remove_all(root);
+    std::filesystem::create_directories(root / "home");
+    std::filesystem::create_directories(root / "addin");
+    return root;
+  }
+  static platform::PosixSystemOptions Options(const std::filesystem::path& root) {
+    platform::PosixSystemOptions o;
+    o.home = (root / "home").string();
+    o.addinFolder = (root / "addin").string();
+    o.spawn = false;
+    o.environment = {{"USERNAME", "winuser"}};
+    return o;
+  }
+
+  std::filesystem::path root_;
+
+ protected:
+  platform::PosixSystemServices system;
+  platform::PosixObjectFactory objects;
+  platform::ScriptedUserInterface ui;
+  AddinState s{platform::Platform{
+      .registry = nullptr, .objects = &objects, .ui = &ui, .system = &system, .windows = nullptr}};
+  FakeOutlook outlook;
+};
+
+}  // namespace qvx::testing
