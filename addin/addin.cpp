@@ -9,17 +9,54 @@ QVXClientAddin::QVXClientAddin(platform::Platform platform)
 
 QVXClientAddin::~QVXClientAddin() = default;
 
-void QVXClientAddin::OnConnection(const Object&, int, const Object&) noexcept {}
-void QVXClientAddin::OnStartupComplete() noexcept {}
-void QVXClientAddin::OnBeginShutdown() noexcept {}
-void QVXClientAddin::OnDisconnection(int) noexcept {}
-void QVXClientAddin::Terminate() noexcept {}
+void QVXClientAddin::OnConnection(const Object& application, int, const Object&) noexcept {
+  AddinState& s = *state_;
+  Trapped(s, "Addin.OnConnection", [&](Line& line) {
+    line = 10;
+    s.main.objOutlook = application;
+    line = 20;
+    s.main.blnAddinConnected = true;
+    s.main.phase = AddinPhase::Connected;
+    line = 30;
+    subFirstPoint(s);
+  });
+}
+
+void QVXClientAddin::OnStartupComplete() noexcept {
+  AddinState& s = *state_;
+  Trapped(s, "Addin.OnConnection", [&](Line& line) {
+    line = 10;
+    bool restart = false;
+    StartingPoint(s, restart);
+    if (s.main.phase == AddinPhase::Connected) s.main.phase = AddinPhase::Started;
+    s.err.Clear();
+  });
+}
+
+void QVXClientAddin::OnBeginShutdown() noexcept {
+  subKillObjects(*state_);
+}
+
+void QVXClientAddin::OnDisconnection(int) noexcept {
+  AddinState& s = *state_;
+  Trapped(s, "Addin.OnDisconnection", [&](Line& line) {
+    line = 10;
+    subKillObjects(s);
+  });
+}
+
+void QVXClientAddin::Terminate() noexcept {
+  subKillObjects(*state_);
+}
+
 std::string QVXClientAddin::GetCustomUI(std::string_view) noexcept {
   return {};
 }
+
 bool QVXClientAddin::InvokeCallback(std::string_view, std::vector<Variant>&, Variant&) noexcept {
   return false;
 }
+
 bool QVXClientAddin::HasCallback(std::string_view) const noexcept {
   return false;
 }

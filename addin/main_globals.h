@@ -1,25 +1,53 @@
 // The main module's process-wide objects, released only by the tear-down.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "addin/loaded_form.h"
 #include "core/object.h"
+#include "core/ordered_dictionary.h"
 #include "settings/my_settings.h"
 
 namespace qvx {
+
+class cExplorersEventClient;
+class cInspectors;
+class cExplorerClient;
+class cSingleList;
+class ListenerForm;
+
+// The registered ids of the two message channels, kept once registered.
+struct ChannelIds {
+  uint32_t clientMessageId = 0;
+  uint32_t managerMessageId = 0;
+};
 
 // Where the add-in stands in its life: it only ever moves forward.
 enum class AddinPhase { NotConnected, Connected, Started, TornDown };
 
 struct MainGlobals {
+  MainGlobals();
+  ~MainGlobals();
+
   AddinPhase phase = AddinPhase::NotConnected;
   Object objOutlook;
-  bool blnAddinConnected = false;
+  bool blnAddinConnected = false;  // set on connection; nothing reads it
   std::unique_ptr<cMySettings> objMySettings;
   std::string strToolName;
+  std::shared_ptr<ListenerForm> fListenToLocal;
+  std::shared_ptr<ListenerForm> fListenToAdmin;
+  std::unique_ptr<cExplorersEventClient> objExplorersClient;
+  std::unique_ptr<cInspectors> objInspectorsClient;
+  std::unique_ptr<OrderedDictionary<std::shared_ptr<cExplorerClient>>> colExplorerClients;
   Object objNameSpace;
+  std::unique_ptr<cSingleList> colViewNames;
   Object objRibbonUI;
+  ChannelIds channel;
+  // The runtime's collection of loaded forms, in load order.
+  std::vector<std::shared_ptr<LoadedForm>> forms;
 };
 
 }  // namespace qvx

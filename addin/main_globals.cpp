@@ -1,0 +1,18 @@
+#include "addin/main_globals.h"
+
+#include "addin/explorers_event_client.h"
+#include "addin/inspectors_client.h"
+#include "companion/listener_form.h"
+#include "settings/single_list.h"
+
+namespace qvx {
+
+MainGlobals::MainGlobals() = default;
+MainGlobals::~MainGlobals() {
+  // The clients reach back into these globals as they go, so they go first.
+  objExplorersClient.reset();
+  objInspectorsClient.reset();
+  forms.clear();
+}
+
+}  // namespace qvx

@@ -1,0 +1,7 @@
+#include "reporting/color_codes.h"
+
+namespace qvx {
+
+void LoadProjectColorCodesToOutlook(AddinState&) noexcept {}
+
+}  // namespace qvx
