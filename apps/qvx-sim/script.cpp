@@ -42,6 +42,24 @@ bool SplitWords(std::string_view line, std::vector<std::string>& words, std::str
           case '\\':
             word += e;
             break;
+          case 'x': {
+            // Two hex digits: any byte, for odd input.
+            const auto hex = [](char h) {
+              if (h >= '0' && h <= '9') return h - '0';
+              if (h >= 'a' && h <= 'f') return h - 'a' + 10;
+              if (h >= 'A' && h <= 'F') return h - 'A' + 10;
+              return -1;
+            };
+            const int high = i < line.size() ? hex(line[i]) : -1;
+            const int low = i + 1 < line.size() ? hex(line[i + 1]) : -1;
+            if (high < 0 || low < 0) {
+              error = "\\x needs two hex digits in a quoted word";
+              return false;
+            }
+            word += static_cast<char>(high * 16 + low);
+            i += 2;
+            break;
+          }
           default:
             error = std::string("unknown escape \\") + e + " in a quoted word";
             return false;

@@ -1,9 +1,10 @@
 // The scenario language's lines and words.
 //
 // A scenario is plain text, one statement a line. A line is words separated
-// by blanks; a word in double quotes may hold blanks and the escapes
-// \" \\ \n \r \t (backslash-quote, backslash-backslash, newline, return, tab). "#" outside quotes
-// starts a comment. Blank lines are skipped.
+// by blanks; a word in double quotes may hold blanks and escapes: a
+// backslash before a quote, a backslash, n, r or t, or x and two hex digits
+// for any byte. "#" outside quotes starts a comment. Blank lines are skipped.
+// Outside quotes a backslash is an ordinary character (C:\Data stays).
 #pragma once
 
 #include <optional>

@@ -23,6 +23,17 @@ TEST(ScenarioScript, SplitsWordsQuotesAndComments) {
   EXPECT_EQ(script.statements[1].text.back(), '"');
 }
 
+TEST(ScenarioScript, HexEscapesGiveAnyByteAndBackslashesStayOutsideQuotes) {
+  std::vector<std::string> words;
+  std::string error;
+  ASSERT_TRUE(SplitWords("set \"a\\x00\\xFFb\\x7e\" C:\\Data\\x.mdb", words, error)) << error;
+  ASSERT_EQ(words.size(), 3u);
+  EXPECT_EQ(words[1], std::string("a\0\xFF"
+                                  "b~",
+                                  5));
+  EXPECT_EQ(words[2], "C:\\Data\\x.mdb");
+}
+
 TEST(ScenarioScript, EmptyQuotedWordsCount) {
   std::vector<std::string> words;
   std::string error;
@@ -37,11 +48,9 @@ TEST(ScenarioScript, MalformedLinesNameTheirLine) {
     int line;
   };
   const Row rows[] = {
-      {"a\nb \"open", 2},
-      {"x\ny\nz \"bad\\q\"", 3},
-      {"\"glued\"word", 1},
-      {"wo\"rd", 1},
-      {"ok\n\"trailing backslash\\", 2},
+      {"a\nb \"open", 2}, {"x\ny\nz \"bad\\q\"", 3},         {"\"glued\"word", 1},
+      {"wo\"rd", 1},      {"ok\n\"trailing backslash\\", 2}, {"\"\\x4\"", 1},
+      {"\"\\xg0\"", 1},
   };
   for (const Row& row : rows) {
     Script script;

@@ -1,0 +1,52 @@
+#include "apps/qvx-sim/verbs.h"
+
+#include <cstdio>
+
+namespace qvx::scenario {
+
+void RegisterAllVerbs(VerbTable& table) {
+  RegisterRegistryVerbs(table);
+  RegisterHostVerbs(table);
+  RegisterAddinVerbs(table);
+  RegisterDialogVerbs(table);
+  RegisterCompanionVerbs(table);
+  RegisterShowVerbs(table);
+}
+
+void ExpectEqual(const std::string& expected, const std::string& seen) {
+  if (expected != seen) throw ExpectationFailed(Shown(expected), Shown(seen));
+}
+
+std::string Shown(std::string_view text) {
+  std::string shown = "\"";
+  for (const unsigned char c : text) {
+    switch (c) {
+      case '\r':
+        shown += "\\r";
+        break;
+      case '\n':
+        shown += "\\n";
+        break;
+      case '\t':
+        shown += "\\t";
+        break;
+      case '"':
+        shown += "\\\"";
+        break;
+      case '\\':
+        shown += "\\\\";
+        break;
+      default:
+        if (c < 0x20 || c == 0x7f) {
+          char escaped[8];
+          std::snprintf(escaped, sizeof escaped, "\\x%02X", c);
+          shown += escaped;
+        } else {
+          shown += static_cast<char>(c);
+        }
+    }
+  }
+  return shown + "\"";
+}
+
+}  // namespace qvx::scenario

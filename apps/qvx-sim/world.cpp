@@ -1,0 +1,91 @@
+#include "apps/qvx-sim/world.h"
+
+#include <stdlib.h>
+
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+#include "addin/main_globals.h"
+
+namespace qvx::scenario {
+namespace {
+
+std::string MakeFolder() {
+  std::string base = std::filesystem::temp_directory_path().string() + "/qvx-sim-XXXXXX";
+  if (mkdtemp(base.data()) == nullptr) throw std::runtime_error("cannot make a temporary folder");
+  return base;
+}
+
+std::string StandInFolder() {
+  if (const char* env = std::getenv("QVX_ADDIN_FOLDER"); env != nullptr && *env != '\0') {
+    return env;
+  }
+  return QVX_STANDIN_FOLDER;
+}
+
+}  // namespace
+
+World::World() : folder_(MakeFolder()) {
+  std::filesystem::create_directories(folder_ + "/home/Documents");
+  // Programs the add-in starts inherit these: they journal into this world
+  // and post to this world's listener windows only.
+  setenv("QVX_COMPANION_JOURNAL", (folder_ + "/companion-journal.txt").c_str(), 1);
+  setenv("QVX_WINDOW_NAMESPACE", std::filesystem::path(folder_).filename().c_str(), 1);
+  registry_ = std::make_unique<platform::FileRegistry>(folder_ + "/registry.qvxreg");
+  platform::PosixSystemOptions options;
+  options.home = folder_ + "/home";
+  options.addinFolder = StandInFolder();
+  system_ = std::make_unique<platform::PosixSystemServices>(options);
+  objects_ = std::make_unique<platform::PosixObjectFactory>(*system_);
+  host_ = std::make_unique<sim::Outlook>();
+  objects_->RegisterRunning("Outlook.Application", [this] { return host_->Application(); });
+  system_->SetDoEventsHook([this] { Pump(); });
+}
+
+World::~World() {
+  addin_.reset();
+  host_.reset();
+  system_->WaitForChildren();
+  std::error_code ignored;
+  std::filesystem::remove_all(folder_, ignored);
+}
+
+QVXClientAddin& World::addin() {
+  if (!addin_) {
+    platform::Platform platform;
+    platform.registry = registry_.get();
+    platform.objects = objects_.get();
+    platform.ui = &ui_;
+    platform.system = system_.get();
+    platform.windows = &windows_;
+    addin_ = std::make_unique<QVXClientAddin>(platform);
+  }
+  return *addin_;
+}
+
+void World::Pump() {
+  // Window messages and host events may each cause more of the other.
+  for (int round = 0; round < 100; ++round) {
+    const size_t ran = host_->Pending().RunPending() + windows_.DispatchPending();
+    if (ran == 0) break;
+  }
+}
+
+std::vector<std::string> World::JournalLines() const {
+  std::vector<std::string> lines;
+  std::ifstream in(folder_ + "/companion-journal.txt", std::ios::binary);
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  return lines;
+}
+
+void World::Finish() {
+  if (addin_ && addin_->state().main.phase != AddinPhase::TornDown &&
+      addin_->state().main.phase != AddinPhase::NotConnected) {
+    addin_->OnBeginShutdown();
+    addin_->OnDisconnection(0);
+  }
+  system_->WaitForChildren();
+}
+
+}  // namespace qvx::scenario

@@ -1,0 +1,82 @@
+// The world a scenario runs in: a simulated host, the POSIX platform (a
+// registry file, the scripted user interface, the launcher, the listener
+// sockets) and, once started, the add-in itself. Everything lives in a
+// private temporary folder that goes with the world.
+//
+// Launched programs are the companion stand-ins from the add-in's folder
+// ($QVX_ADDIN_FOLDER, else the folder of the build); they write their
+// journal into the world's folder and post back to the world's own
+// listener window namespace, so scenarios can run side by side.
+#pragma once
+
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "addin/addin.h"
+#include "platform/posix/file_registry.h"
+#include "platform/posix/posix_objects.h"
+#include "platform/posix/posix_system.h"
+#include "platform/posix/scripted_ui.h"
+#include "platform/posix/socket_message_windows.h"
+#include "sim/outlook.h"
+
+namespace qvx::scenario {
+
+// The key the add-in shares with the companion.
+inline constexpr char kSettingsKey[] = "Software\\Zenbrook\\QVX";
+
+class World {
+ public:
+  World();
+  ~World();
+  World(const World&) = delete;
+  World& operator=(const World&) = delete;
+
+  sim::Outlook& host() { return *host_; }
+  platform::FileRegistry& registry() { return *registry_; }
+  platform::ScriptedUserInterface& ui() { return ui_; }
+  platform::PosixSystemServices& system() { return *system_; }
+  platform::PosixObjectFactory& objects() { return *objects_; }
+  platform::SocketMessageWindows& windows() { return windows_; }
+
+  // The add-in, made on first use (as the host loads it).
+  QVXClientAddin& addin();
+  bool HasAddin() const { return addin_ != nullptr; }
+
+  // Lets pending work through: queued host events and window messages.
+  void Pump();
+  // Waits for the launched programs to end (before reading their journal).
+  void WaitForPrograms() { system_->WaitForChildren(); }
+  // The companion stand-ins' journal lines so far.
+  std::vector<std::string> JournalLines() const;
+  const std::string& folder() const { return folder_; }
+
+  // Expectation cursors: each expectation consumes the oldest record not yet
+  // expected, so a script states what happened in order.
+  size_t launchesSeen = 0;
+  size_t boxesSeen = 0;
+  size_t formsSeen = 0;
+  // Journal lines already expected, by position; programs run side by side,
+  // so their lines are matched in any order.
+  std::vector<bool> journalTaken;
+
+  // Where "say" and "show" write; the runner's output.
+  std::ostream* out = nullptr;
+
+  // Ends the run: the host shuts the add-in down if it still runs.
+  void Finish();
+
+ private:
+  std::string folder_;
+  std::unique_ptr<platform::FileRegistry> registry_;
+  platform::ScriptedUserInterface ui_;
+  std::unique_ptr<platform::PosixSystemServices> system_;
+  std::unique_ptr<platform::PosixObjectFactory> objects_;
+  platform::SocketMessageWindows windows_;
+  std::unique_ptr<sim::Outlook> host_;
+  std::unique_ptr<QVXClientAddin> addin_;
+};
+
+}  // namespace qvx::scenario
