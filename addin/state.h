@@ -13,6 +13,7 @@
 #include "companion/companion_state.h"
 #include "core/trap.h"
 #include "platform/platform.h"
+#include "reporting/tagging_state.h"
 #include "support/support_state.h"
 
 namespace qvx {
@@ -29,6 +30,7 @@ class AddinState final : public FailureSink {
   MainGlobals main;
   SupportState support;
   CompanionState companion;
+  TaggingState tagging;
 
   platform::RegistryApi& registry() const { return *platform.registry; }
   platform::ObjectFactory& objects() const { return *platform.objects; }

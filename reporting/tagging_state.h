@@ -1,0 +1,19 @@
+// State of the tagging actions, shared with the bars and the ribbon.
+#pragma once
+
+#include <string>
+
+namespace qvx {
+
+struct TaggingState {
+  // True while a project value is being written (TagProjectValueToItem, the
+  // project bar's change handler). The selection handler and ShowFields do
+  // nothing while it is set, so that the pump between two items cannot
+  // refresh the bars with a half-tagged selection.
+  bool blnTaggingInProgress = false;
+  // The activity now shown in the explorer's ribbon or bar. A project change
+  // empties it when the activity doesn't belong to the new project.
+  std::string SELECTED_ACTIVITY_VALUE;
+};
+
+}  // namespace qvx
