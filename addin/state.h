@@ -13,6 +13,7 @@
 #include "companion/companion_state.h"
 #include "core/trap.h"
 #include "platform/platform.h"
+#include "reporting/report_state.h"
 #include "reporting/tagging_state.h"
 #include "support/support_state.h"
 
@@ -31,6 +32,7 @@ class AddinState final : public FailureSink {
   SupportState support;
   CompanionState companion;
   TaggingState tagging;
+  ReportState report;
 
   platform::RegistryApi& registry() const { return *platform.registry; }
   platform::ObjectFactory& objects() const { return *platform.objects; }
