@@ -254,12 +254,18 @@ class FaceConnectionPoint final : public IConnectionPoint, private ModuleCounted
       if (FAILED(sink->QueryInterface(diid_, target.PutVoid())) || !target) {
         return CONNECT_E_CANNOTCONNECT;
       }
+      // A host object need not raise every event of the interface (a
+      // simulated Application has no Reminder); the sink gets the ones it does.
       std::vector<Subscription> subscriptions;
       for (const HostEvent& e : HostEvents()) {
-        if (IsEqualGUID(*e.diid, diid_)) {
+        if (!IsEqualGUID(*e.diid, diid_)) continue;
+        try {
           subscriptions.push_back(host_->Subscribe(e.name, EventForwarder{target, e.dispid}));
+        } catch (const Failure&) {
+          // Not an event of this object.
         }
       }
+      if (subscriptions.empty()) return CONNECT_E_CANNOTCONNECT;
       *cookie = next_++;
       advised_.emplace(*cookie, std::move(subscriptions));
       return S_OK;
