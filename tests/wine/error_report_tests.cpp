@@ -1,0 +1,59 @@
+// A failure the host reports through EXCEPINFO reaches the add-in's central
+// failure handling: the first one of an add-in's life is shown in the error
+// report dialog, later ones are dropped, and the host sees no failure.
+#include <windows.h>
+
+#include <string>
+
+#include "harness/addin_session.h"
+#include "harness/check.h"
+#include "harness/companion_journal.h"
+#include "harness/registry_keys.h"
+#include "harness/ui_watcher.h"
+
+namespace qvx::winetest {
+namespace {
+
+// MAPI_E_NOT_FOUND, as Outlook raises it for an object that is not there.
+constexpr int32_t kHostError = static_cast<int32_t>(0x8004010F);
+
+}  // namespace
+
+WINE_TEST(ErrorReport, AHostFailureShowsTheFirstReport) {
+  WriteSettings({{L"DBChoice", L"1"}, {L"AutoSyncToDB", L"-1"}});
+  ClearJournal();
+  Watcher().Take();
+  AddinSession session;
+  // The start-up reads ActiveExplorer once the explorers are followed.
+  session.world().FailAt("ActiveExplorer", kHostError, "The explorer could not be reached.");
+  REQUIRE_EQ(session.Connect(), S_OK);
+  CHECK_EQ(session.StartupComplete(), S_OK);  // the host sees no failure
+
+  const std::vector<SeenDialog> seen = Watcher().Take();
+  REQUIRE_EQ(seen.size(), size_t{1});
+  const SeenDialog& report = seen[0];
+  CHECK_EQ(report.caption, std::wstring(L"Unknown Exception"));
+  CHECK(!report.messageBox);
+  CHECK(report.Shows(L"In Function: Main.StartingPoint"));
+  CHECK(report.Shows(L"At Line: 90"));
+  CHECK(report.Shows(L"Source: Microsoft Outlook"));
+  CHECK(report.Shows(L"Exception Number: " + std::to_wstring(kHostError)));
+  CHECK(report.Shows(L"Exception Description: The explorer could not be reached."));
+  // The start-up ended at the failure: no companion section was started.
+  CHECK(FinishedLaunches().empty());
+
+  // A later failure of the same add-in is dropped without a dialog.
+  session.world().FailAt("Explorers.Count", kHostError, "Counting failed.");
+  session.world().OpenExplorer(session.world().Tasks());
+  CHECK(Watcher().Take().empty());
+
+  // And the add-in still works: the channel is open and the tear-down runs.
+  CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 1), 0u);
+  CHECK(PumpUntil([] { return JournalLines() >= 1; }));
+  CHECK_EQ(FinishedLaunches(), std::vector<std::string>{"28"});
+  CHECK_EQ(session.BeginShutdown(), S_OK);
+  CHECK(FindClientWindow() == nullptr);
+  DeleteTree(kSettingsKey);
+}
+
+}  // namespace qvx::winetest

@@ -1,0 +1,39 @@
+// The Wine test host: plays Outlook for QVXClient.dll and checks what the
+// add-in does, through the same doors Outlook uses (the DLL's exports, the
+// registry, IDTExtensibility2, IDispatch, window messages and the programs
+// it starts).
+//
+//   wine qvx_wine_tests.exe [--list] [FILTER]
+//
+// FILTER is a substring of "Suite.Name". Exit code 0 when every test ran
+// without failure.
+#include <windows.h>
+
+#include <cstdio>
+#include <string>
+
+#include "harness/check.h"
+#include "harness/companion_journal.h"
+#include "harness/ui_watcher.h"
+
+int main(int argc, char** argv) {
+  std::string filter;
+  for (int i = 1; i < argc; ++i) {
+    const std::string arg = argv[i];
+    if (arg == "--list") {
+      qvx::winetest::ListAll();
+      return 0;
+    }
+    filter = arg;
+  }
+  // The host's user interface thread: a single-threaded apartment with OLE.
+  if (FAILED(OleInitialize(nullptr))) {
+    std::printf("OleInitialize failed\n");
+    return 1;
+  }
+  qvx::winetest::SetUpJournal();
+  qvx::winetest::Watcher();  // from now on no modal window can block a test
+  const int result = qvx::winetest::RunAll(filter);
+  OleUninitialize();
+  return result;
+}
