@@ -3,11 +3,17 @@
 #include "addin/explorers_event_client.h"
 #include "addin/inspectors_client.h"
 #include "companion/listener_form.h"
+#include "core/failure.h"
 #include "settings/single_list.h"
 
 namespace qvx {
 
 MainGlobals::MainGlobals() = default;
+
+cMySettings& MainGlobals::Settings() const {
+  if (!objMySettings) throw Failure::Runtime(err::kObjectNotSet);
+  return *objMySettings;
+}
 MainGlobals::~MainGlobals() {
   // The clients reach back into these globals as they go, so they go first.
   objExplorersClient.reset();

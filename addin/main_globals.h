@@ -32,6 +32,10 @@ struct MainGlobals {
   MainGlobals();
   ~MainGlobals();
 
+  // The settings record, as code that reads it sees it: after a tear-down it
+  // is gone, and a use then fails as the use of a released object does (91).
+  cMySettings& Settings() const;
+
   AddinPhase phase = AddinPhase::NotConnected;
   Object objOutlook;
   bool blnAddinConnected = false;  // set on connection; nothing reads it

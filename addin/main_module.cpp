@@ -23,7 +23,7 @@ void subFirstPoint(AddinState& s) {
     line = 20;
     FileModule::Initialize(s);
     line = 30;
-    s.main.objMySettings->ReadSettings(s);
+    s.main.Settings().ReadSettings(s);
   });
 }
 
@@ -54,7 +54,7 @@ void StartingPoint(AddinState& s, bool& blnRestart) {
       s.main.objExplorersClient->LoadSupportCallsMenu(addButtons);
     }
     line = 100;
-    const cMySettings& settings = *s.main.objMySettings;
+    const cMySettings& settings = s.main.Settings();
     const int32_t dbChoice = settings.DBChoice;
     const std::string connection = settings.DBConnectionString;
     line = 110;
@@ -97,10 +97,10 @@ void subKillObjects(AddinState& s) {
     Quietly(s.err, [&] { m.fListenToLocal.reset(); });
     line = 50;
     // Last to first; a form that refuses to go must not stall the loop.
-    for (size_t i = m.forms.size(); i >= 1; --i) {
-      if (i > m.forms.size()) break;
-      Quietly(s.err, [&] { m.forms[i - 1]->Unload(); });
-      m.forms.erase(m.forms.begin() + static_cast<std::ptrdiff_t>(i - 1));
+    for (size_t i = m.forms.size(); i >= 1 && i <= m.forms.size(); --i) {
+      bool gone = false;
+      IgnoreFailure(s.err, [&] { gone = m.forms[i - 1]->Unload(); });
+      if (gone) m.forms.erase(m.forms.begin() + static_cast<std::ptrdiff_t>(i - 1));
       if (m.forms.size() == i) break;
     }
     line = 60;

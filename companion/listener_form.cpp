@@ -22,12 +22,6 @@ ListenerForm& EnsureForm(AddinState& s, Channel channel) {
   return *form;
 }
 
-// The settings record; gone after a tear-down, as a released object is.
-cMySettings& Settings(AddinState& s) {
-  if (!s.main.objMySettings) throw Failure::Runtime(err::kObjectNotSet);
-  return *s.main.objMySettings;
-}
-
 }  // namespace
 
 ListenerForm::~ListenerForm() = default;
@@ -65,7 +59,7 @@ void ListenerForm::subPassWMToken(int32_t& lngValue) noexcept {
     if (!client) {
       if (lngValue == 0) {
         line = 20;
-        Settings(s).ReadSettings(s);
+        s.main.Settings().ReadSettings(s);
         line = 30;
         subInvalidateRibbon(s);
       }
@@ -74,7 +68,7 @@ void ListenerForm::subPassWMToken(int32_t& lngValue) noexcept {
     switch (lngValue) {
       case 0:
         line = 40;
-        Settings(s).ReadSettings(s);
+        s.main.Settings().ReadSettings(s);
         line = 50;
         if (s.main.objExplorersClient) s.main.objExplorersClient->UpdateAllDisplayedToolbars();
         line = 60;

@@ -92,6 +92,7 @@ void RegisterDialogVerbs(VerbTable& table) {
             "the next message box shown; STYLE a number or names like critical, yesno+question",
             [](World& w, const Args& a) {
               a.Expect(1, 3);
+              const int style = a.size() > 2 ? StyleOf(a.At(2)) : 0;
               const auto& boxes = w.ui().MessageBoxes();
               if (w.boxesSeen >= boxes.size()) {
                 throw ExpectationFailed(Shown(a.At(0)), "(no message box)");
@@ -99,8 +100,7 @@ void RegisterDialogVerbs(VerbTable& table) {
               const platform::MessageBoxRecord& box = boxes[w.boxesSeen++];
               ExpectEqual(a.At(0), box.text);
               if (a.size() > 1) ExpectEqual(a.At(1), box.title);
-              if (a.size() > 2)
-                ExpectEqual(std::to_string(StyleOf(a.At(2))), std::to_string(box.style));
+              if (a.size() > 2) ExpectEqual(std::to_string(style), std::to_string(box.style));
             });
   table.Add("expect no-msgbox", "expect no-msgbox", "no message box beyond those expected",
             [](World& w, const Args& a) {

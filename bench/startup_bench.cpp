@@ -1,0 +1,93 @@
+// Start-up of the add-in in the simulated host: connection (settings read)
+// plus start-up complete (listener, sinks, session, first explorer's client,
+// companion starts), for an unconfigured and a configured user.
+#include <benchmark/benchmark.h>
+#include <stdlib.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "addin/addin.h"
+#include "platform/posix/file_registry.h"
+#include "platform/posix/posix_objects.h"
+#include "platform/posix/posix_system.h"
+#include "platform/posix/scripted_ui.h"
+#include "platform/posix/socket_message_windows.h"
+#include "sim/outlook.h"
+
+namespace {
+
+using namespace qvx;
+
+constexpr char kKey[] = "Software\\Zenbrook\\QVX";
+
+// The platform of one run; launches are recorded, not spawned.
+struct Bench {
+  explicit Bench(bool configured) : folder(MakeFolder()), registry(folder + "/registry.qvxreg") {
+    if (configured) {
+      registry.SetString(kKey, "DBChoice", "1");
+      registry.SetString(kKey, "DBConnectionString", "DSN=Timesheets");
+      registry.SetString(kKey, "AutoSyncToDB", "-1");
+      registry.SetString(kKey, "ReportIemsOnDueDateLapsedAutomatically", "-1");
+      registry.SetString(kKey, "AutoCheckForUpgradeAtStartup", "-1");
+    }
+    // The companion is found, as in a real installation; nothing is spawned.
+    std::ofstream(folder + "/QuorvixClient.exe") << "stand-in";
+    options.home = folder;
+    options.addinFolder = folder;
+    options.spawn = false;
+    setenv("QVX_WINDOW_NAMESPACE", std::filesystem::path(folder).filename().c_str(), 1);
+  }
+  ~Bench() { std::filesystem::remove_all(folder); }
+
+  static std::string MakeFolder() {
+    std::string base = std::filesystem::temp_directory_path().string() + "/qvx-bench-XXXXXX";
+    if (mkdtemp(base.data()) == nullptr) std::abort();
+    return base;
+  }
+
+  std::string folder;
+  platform::FileRegistry registry;
+  platform::PosixSystemOptions options;
+};
+
+void RunStartup(benchmark::State& state, bool configured) {
+  Bench bench(configured);
+  for (auto _ : state) {
+    state.PauseTiming();
+    platform::PosixSystemServices system(bench.options);
+    platform::PosixObjectFactory objects(system);
+    platform::ScriptedUserInterface ui;
+    platform::SocketMessageWindows windows;
+    sim::Outlook host;
+    objects.RegisterRunning("Outlook.Application", [&host] { return host.Application(); });
+    auto addin = std::make_unique<QVXClientAddin>(platform::Platform{.registry = &bench.registry,
+                                                                     .objects = &objects,
+                                                                     .ui = &ui,
+                                                                     .system = &system,
+                                                                     .windows = &windows});
+    const Object application = host.Application();
+    state.ResumeTiming();
+
+    addin->OnConnection(application, 1, Object());
+    addin->OnStartupComplete();
+
+    state.PauseTiming();
+    addin->OnBeginShutdown();
+    addin.reset();
+    state.ResumeTiming();
+  }
+}
+
+void BM_StartupUnconfigured(benchmark::State& state) {
+  RunStartup(state, false);
+}
+void BM_StartupConfigured(benchmark::State& state) {
+  RunStartup(state, true);
+}
+
+BENCHMARK(BM_StartupUnconfigured)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_StartupConfigured)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
