@@ -11,6 +11,7 @@ void RegisterAllVerbs(VerbTable& table) {
   RegisterDialogVerbs(table);
   RegisterCompanionVerbs(table);
   RegisterShowVerbs(table);
+  RegisterMailLibraryVerbs(table);
 }
 
 void ExpectEqual(const std::string& expected, const std::string& seen) {

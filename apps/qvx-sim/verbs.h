@@ -15,6 +15,7 @@ void RegisterAddinVerbs(VerbTable& table);
 void RegisterDialogVerbs(VerbTable& table);
 void RegisterCompanionVerbs(VerbTable& table);
 void RegisterShowVerbs(VerbTable& table);
+void RegisterMailLibraryVerbs(VerbTable& table);
 
 // Fails the expectation unless the two texts are equal.
 void ExpectEqual(const std::string& expected, const std::string& seen);

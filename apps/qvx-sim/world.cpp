@@ -64,6 +64,11 @@ QVXClientAddin& World::addin() {
   return *addin_;
 }
 
+void World::InstallMailLibrary(const sim::MailLibraryOptions& options) {
+  mailLibrary_ = std::make_unique<sim::MailLibraryStandIn>(options);
+  mailLibrary_->Install(*objects_);
+}
+
 void World::Pump() {
   // Window messages and host events may each cause more of the other.
   for (int round = 0; round < 100; ++round) {

@@ -20,6 +20,7 @@
 #include "platform/posix/posix_system.h"
 #include "platform/posix/scripted_ui.h"
 #include "platform/posix/socket_message_windows.h"
+#include "sim/mail_library_standin.h"
 #include "sim/outlook.h"
 
 namespace qvx::scenario {
@@ -40,6 +41,10 @@ class World {
   platform::PosixSystemServices& system() { return *system_; }
   platform::PosixObjectFactory& objects() { return *objects_; }
   platform::SocketMessageWindows& windows() { return windows_; }
+
+  // Installs the mail library stand-in; absent until then.
+  void InstallMailLibrary(const sim::MailLibraryOptions& options);
+  sim::MailLibraryStandIn* mailLibrary() { return mailLibrary_.get(); }
 
   // The add-in, made on first use (as the host loads it).
   QVXClientAddin& addin();
@@ -76,6 +81,7 @@ class World {
   std::unique_ptr<platform::PosixObjectFactory> objects_;
   platform::SocketMessageWindows windows_;
   std::unique_ptr<sim::Outlook> host_;
+  std::unique_ptr<sim::MailLibraryStandIn> mailLibrary_;
   std::unique_ptr<QVXClientAddin> addin_;
 };
 
