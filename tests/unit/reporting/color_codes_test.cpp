@@ -1,0 +1,114 @@
+// LoadProjectColorCodesToOutlook: the projects' colours in the session's
+// master category list.
+#include "reporting/color_codes.h"
+
+#include "unit/reporting/tagging_fixture.h"
+#include "sim/categories.h"
+#include "sim/name_space.h"
+#include "sim/outlook.h"
+
+namespace qvx::testing {
+namespace {
+
+class ColorCodesTest : public TaggingTest {
+ protected:
+  void Load() { LoadProjectColorCodesToOutlook(s()); }
+  int32_t ColorOf(std::string_view name) {
+    auto category = host().FindCategory(name);
+    return category ? category->color() : -1;
+  }
+};
+
+TEST_F(ColorCodesTest, EachProjectGetsItsColourAddedOrChanged) {
+  Set("AddProjectColorCodes", "-1");
+  host().AddCategory("alpha", 1);
+  host().AddCategory("Holiday", 2);
+  Connect();
+  Load();
+  EXPECT_EQ(ColorOf("Alpha"), 5);
+  EXPECT_EQ(host().FindCategory("Alpha")->name(), "alpha");  // recoloured, not renamed
+  EXPECT_EQ(ColorOf("Beta"), 8);
+  EXPECT_EQ(ColorOf("Gamma"), 3);
+  EXPECT_EQ(ColorOf("Holiday"), 2);
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(ColorCodesTest, NothingWithoutTheSetting) {
+  Connect();
+  Load();
+  EXPECT_EQ(ColorOf("Alpha"), -1);
+  EXPECT_TRUE(host().app().session().categories().list().empty());
+}
+
+TEST_F(ColorCodesTest, NothingBeforeVersionTwelve) {
+  Set("AddProjectColorCodes", "1");
+  host().SetVersion("11.0.0.8312");
+  Connect();
+  Load();
+  EXPECT_EQ(ColorOf("Alpha"), -1);
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(ColorCodesTest, VersionTwelveIsEnough) {
+  Set("AddProjectColorCodes", "1");
+  host().SetVersion("12.0.4518.1014");
+  Connect();
+  Load();
+  EXPECT_EQ(ColorOf("Beta"), 8);
+}
+
+TEST_F(ColorCodesTest, TheSessionIsFetchedWhenThereIsNone) {
+  Set("AddProjectColorCodes", "-1");
+  Connect();
+  s().main.objNameSpace.Release();
+  Load();
+  EXPECT_FALSE(s().main.objNameSpace.IsNothing());
+  EXPECT_EQ(ColorOf("Alpha"), 5);
+}
+
+TEST_F(ColorCodesTest, ABadEntryIsPassedOver) {
+  Set("AddProjectColorCodes", "-1");
+  // A project without a name: the host refuses a category without one.
+  Set("MyProjectsTasks", ",4,,:\r\nBeta,8,,:");
+  Connect();
+  Load();
+  EXPECT_EQ(ColorOf("Beta"), 8);
+  EXPECT_EQ(host().app().session().categories().list().size(), 1u);
+  EXPECT_TRUE(Reports().empty());
+  EXPECT_FALSE(s().err.pending());
+}
+
+TEST_F(ColorCodesTest, MessagesAreLetThroughBeforeEachProject) {
+  Set("AddProjectColorCodes", "-1");
+  Connect();
+  const size_t pumps = host().Pending().pumps();
+  Load();
+  EXPECT_EQ(host().Pending().pumps() - pumps, 3u);
+}
+
+TEST_F(ColorCodesTest, AnEmptyCatalogueDoesNothing) {
+  Set("AddProjectColorCodes", "-1");
+  Set("MyProjectsTasks", "");
+  Connect();
+  const size_t pumps = host().Pending().pumps();
+  Load();
+  EXPECT_EQ(host().Pending().pumps(), pumps);
+  EXPECT_TRUE(host().app().session().categories().list().empty());
+}
+
+TEST_F(ColorCodesTest, ACatalogueReplacedWhileLoadingIsSafe) {
+  Set("AddProjectColorCodes", "-1");
+  Connect();
+  // The companion says the settings changed while the colours go in.
+  host().Pending().Post([&] {
+    Set("MyProjectsTasks", "Delta,9,,:");
+    settings().ReadSettings(s());
+  });
+  Load();
+  EXPECT_EQ(ColorOf("Alpha"), 5);
+  EXPECT_EQ(ColorOf("Gamma"), 3);
+  EXPECT_EQ(settings().MyProjectsTasks->dicList.Count(), 1u);
+}
+
+}  // namespace
+}  // namespace qvx::testing

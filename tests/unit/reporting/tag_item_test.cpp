@@ -1,0 +1,181 @@
+// Actions::TagProjectToItem and IsCustomFieldProperty: the property, the
+// category, the save, and items that have gone or refuse.
+#include "reporting/tag_item.h"
+
+#include "unit/reporting/tagging_fixture.h"
+#include "sim/faults.h"
+
+namespace qvx::testing {
+namespace {
+
+class TagItemTest : public TaggingTest {
+ protected:
+  bool Tag(sim::SimItem& item, std::string_view property, std::string_view value,
+           bool save = true) {
+    return Actions::TagProjectToItem(s(), item.AsObject(), property, value, save);
+  }
+};
+
+TEST(IsCustomFieldProperty, OnlyFieldsOneToEightCaseIncluded) {
+  const struct {
+    std::string_view name;
+    bool custom;
+  } rows[] = {{"Field1Value", true},    {"Field4Value", true},  {"Field5Value", true},
+              {"Field8Value", true},    {"Field9Value", false}, {"Field10Value", false},
+              {"field1value", false},   {"FIELD2VALUE", false}, {"ProjectValue", false},
+              {"ActivityValue", false}, {"Field0Value", false}, {"", false}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(Actions::IsCustomFieldProperty(row.name), row.custom) << row.name;
+  }
+}
+
+TEST_F(TagItemTest, WritesTheValueAsATextPropertyAndSaves) {
+  Connect();
+  auto item = Appointment("Planning");
+  const int savesBefore = item->saveCount();
+  EXPECT_TRUE(Tag(*item, "Field5Value", "free text"));
+  auto property = item->UserProperties().Find("Field5Value");
+  ASSERT_TRUE(property);
+  EXPECT_EQ(property->type(), sim::kOlText);
+  EXPECT_EQ(property->value().ToText(), "free text");
+  EXPECT_EQ(item->saveCount(), savesBefore + 1);
+  // The property is a folder field as well, for the views.
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(TagItemTest, WithoutSaveTheItemStaysUnsaved) {
+  Connect();
+  auto item = Task("Write");
+  const int savesBefore = item->saveCount();
+  EXPECT_TRUE(Tag(*item, "Field9Value", "12", false));
+  EXPECT_EQ(Prop(*item, "Field9Value"), "12");
+  EXPECT_EQ(item->saveCount(), savesBefore);
+}
+
+TEST_F(TagItemTest, AnExistingPropertyIsOverwritten) {
+  Connect();
+  auto item = Appointment("Planning");
+  item->UserProperties().Set("ActivityValue", sim::kOlText, Variant("Old"));
+  EXPECT_TRUE(Tag(*item, "ActivityValue", "New"));
+  EXPECT_EQ(Prop(*item, "ActivityValue"), "New");
+  EXPECT_EQ(item->UserProperties().list().size(), 1u);
+}
+
+TEST_F(TagItemTest, CategoryFollowsTheSettingsOfThePropertyKind) {
+  const struct {
+    const char* project;
+    const char* task;
+    const char* custom;
+    std::string_view property;
+    bool category;
+  } rows[] = {
+      {"-1", "0", "0", "ProjectValue", true},  {"0", "-1", "0", "ProjectValue", true},
+      {"0", "0", "-1", "ProjectValue", false}, {"-1", "0", "0", "ActivityValue", true},
+      {"0", "1", "0", "ActivityValue", true},  {"-1", "-1", "0", "Field1Value", false},
+      {"0", "0", "-1", "Field1Value", true},   {"0", "0", "-1", "Field8Value", true},
+      {"0", "0", "-1", "Field9Value", false},  {"0", "-1", "0", "Field9Value", true},
+      {"-1", "0", "0", "Field10Value", true},  {"0", "0", "0", "ProjectValue", false},
+  };
+  Connect();
+  for (const auto& row : rows) {
+    settings().TagProjectToCategories = Variant(row.project).ToInteger();
+    settings().TagTaskToCategories = Variant(row.task).ToInteger();
+    settings().TagCustomFieldsToCategories = Variant(row.custom).ToInteger();
+    auto item = Appointment("Planning");
+    EXPECT_TRUE(Tag(*item, row.property, "Value"));
+    EXPECT_EQ(Categories(*item), row.category ? "Value" : "")
+        << row.property << " " << row.project << row.task << row.custom;
+  }
+}
+
+TEST_F(TagItemTest, TheNewCategoryGoesInFrontOfTheOldOnes) {
+  Set("TagProjectToCategories", "-1");
+  Set("UpdateStartDateWithProjectStartDate", "0");
+  Connect();
+  auto item = Appointment("Planning");
+  item->SetField("Categories", "Red");
+  Tag(*item, "ProjectValue", "Alpha");
+  Tag(*item, "ActivityValue", "Design");
+  EXPECT_EQ(Categories(*item), "Design,Alpha,Red");
+  // Nothing is tested for or taken out: the same value comes in again.
+  Tag(*item, "ProjectValue", "Alpha");
+  EXPECT_EQ(Categories(*item), "Alpha,Design,Alpha,Red");
+}
+
+TEST_F(TagItemTest, AnEmptyValueLeavesALeadingSeparator) {
+  Set("TagProjectToCategories", "-1");
+  Connect();
+  auto item = Appointment("Planning");
+  item->SetField("Categories", "Alpha");
+  Tag(*item, "ProjectValue", "");
+  EXPECT_EQ(Categories(*item), ",Alpha");
+  auto empty = Appointment("Empty");
+  Tag(*empty, "ProjectValue", "");
+  EXPECT_EQ(Categories(*empty), "");
+}
+
+TEST_F(TagItemTest, AnOccurrenceGetsValueAndDatesButNoCategory) {
+  Set("TagProjectToCategories", "-1");
+  Set("UpdateStartDateWithProjectStartDate", "-1");
+  Connect();
+  auto series = host().AddRecurringAppointment("Weekly", ComposeDate({2026, 3, 2, 9, 0, 0}),
+                                               ComposeDate({2026, 3, 2, 10, 0, 0}));
+  auto occurrence = host().Occurrence(*series, ComposeDate({2026, 3, 9, 9, 0, 0}));
+  EXPECT_TRUE(Tag(*occurrence, "ProjectValue", "Alpha"));
+  EXPECT_EQ(Prop(*occurrence, "ProjectValue"), "Alpha");
+  EXPECT_EQ(Date(*occurrence, "Start"), DateSerial(2026, 3, 2));
+  EXPECT_EQ(Categories(*occurrence), "");
+  // The series itself is no occurrence: it gets its category.
+  Tag(*series, "ProjectValue", "Beta");
+  EXPECT_EQ(Categories(*series), "Beta");
+}
+
+TEST_F(TagItemTest, AVanishedItemIsPassedOverSilently) {
+  Set("TagProjectToCategories", "-1");
+  Connect();
+  auto item = Appointment("Planning");
+  const Object handle = item->AsObject();
+  item->Delete();
+  EXPECT_TRUE(Actions::TagProjectToItem(s(), handle, "ProjectValue", "Alpha", true));
+  EXPECT_TRUE(item->UserProperties().list().empty());
+  EXPECT_TRUE(Reports().empty());
+  EXPECT_FALSE(s().err.pending());
+}
+
+TEST_F(TagItemTest, AnItemThatRefusesThePropertyIsPassedOver) {
+  Connect();
+  auto item = Appointment("Planning");
+  const int savesBefore = item->saveCount();
+  item->FailMember("UserProperties", sim::hresult::kFail, "You don't have permission.");
+  EXPECT_TRUE(Tag(*item, "ProjectValue", "Alpha"));
+  EXPECT_EQ(item->saveCount(), savesBefore);  // nothing written, nothing saved
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(TagItemTest, ARefusedValueIsReportedAndEndsTheTag) {
+  Connect();
+  auto item = Appointment("Planning");
+  auto property = item->UserProperties().Add("ProjectValue", sim::kOlText, false);
+  property->FailMember("Value", sim::hresult::kFail, "The property is read-only.");
+  const int savesBefore = item->saveCount();
+  EXPECT_FALSE(Tag(*item, "ProjectValue", "Alpha"));
+  EXPECT_TRUE(Reported("Actions.TagProjectToItem", 20));
+  EXPECT_EQ(item->saveCount(), savesBefore);
+}
+
+TEST_F(TagItemTest, RefusedCategoriesAndSaveAreIgnored) {
+  Set("TagProjectToCategories", "-1");
+  Connect();
+  auto item = Appointment("Planning");
+  item->FailMember("Categories", sim::Fault{sim::hresult::kFail, "no", sim::kHostSource,
+                                            sim::kAlways, InvokeKind::Put});
+  item->FailMember("Save", sim::hresult::kFail, "The item could not be saved.");
+  EXPECT_TRUE(Tag(*item, "ProjectValue", "Beta"));
+  EXPECT_EQ(Prop(*item, "ProjectValue"), "Beta");
+  EXPECT_EQ(Categories(*item), "");
+  EXPECT_TRUE(Reports().empty());
+  EXPECT_FALSE(s().err.pending());
+}
+
+}  // namespace
+}  // namespace qvx::testing

@@ -1,0 +1,146 @@
+// Actions::GetCurrentSelectedItem: which items get the tag, the EntryID
+// guard, and the messages let through between two items of a selection.
+#include "reporting/tag_selection.h"
+
+#include "sim/faults.h"
+#include "sim/outlook.h"
+#include "unit/reporting/tagging_fixture.h"
+
+namespace qvx::testing {
+namespace {
+
+class TagSelectionTest : public TaggingTest {
+ protected:
+  bool Tag(std::string_view value, std::string_view entryId) {
+    return Actions::GetCurrentSelectedItem(s(), "ProjectValue", value, entryId);
+  }
+};
+
+TEST_F(TagSelectionTest, NoActiveWindowTagsNothing) {
+  host().StartsWithoutExplorer();
+  world.addin().OnConnection(host().Application(), 1, Object());
+  EXPECT_FALSE(Tag("Alpha", ""));
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(TagSelectionTest, AnInspectorsItemIsTaggedWhateverTheEntryID) {
+  Connect();
+  auto item = Appointment("Planning");
+  host().OpenInspector(item);
+  const int saves = item->saveCount();
+  EXPECT_TRUE(Tag("Alpha", "someone else"));
+  EXPECT_EQ(Prop(*item, "ProjectValue"), "Alpha");
+  EXPECT_EQ(item->saveCount(), saves + 1);
+}
+
+TEST_F(TagSelectionTest, OneSelectedItemIsTaggedOnlyIfItIsTheNotedOne) {
+  Connect();
+  auto item = Appointment("Planning");
+  Select({item});
+  EXPECT_FALSE(Tag("Alpha", "not its id"));
+  EXPECT_FALSE(Tag("Alpha", ""));
+  EXPECT_EQ(Prop(*item, "ProjectValue"), "(none)");
+  const int saves = item->saveCount();
+  EXPECT_TRUE(Tag("Alpha", item->EntryId()));
+  EXPECT_EQ(Prop(*item, "ProjectValue"), "Alpha");
+  EXPECT_EQ(item->saveCount(), saves + 1);
+}
+
+TEST_F(TagSelectionTest, AnEmptySelectionIsDealtWithAndNothingWritten) {
+  Connect();
+  Select({});
+  EXPECT_TRUE(Tag("Alpha", ""));
+}
+
+TEST_F(TagSelectionTest, EachOfSeveralIsTaggedAndSavedWithMessagesLetThroughBeforeEach) {
+  Connect();
+  auto a = Appointment("A");
+  auto b = Appointment("B");
+  auto c = Task("C");
+  Select({a, b, c});
+  const int savedBefore = a->saveCount();
+  std::string seenBeforeFirst;
+  host().Pending().Post([&] { seenBeforeFirst = Prop(*a, "ProjectValue"); });
+  EXPECT_TRUE(Tag("Alpha", "the id plays no part"));
+  EXPECT_EQ(seenBeforeFirst, "(none)");
+  // Once before each item: three turns of the pump for three items.
+  const size_t pumps = host().Pending().pumps();
+  EXPECT_TRUE(Tag("Alpha", ""));
+  EXPECT_EQ(host().Pending().pumps() - pumps, 3u);
+  for (const auto& item : std::vector<std::shared_ptr<sim::SimItem>>{a, b, c}) {
+    EXPECT_EQ(Prop(*item, "ProjectValue"), "Alpha") << item->Subject();
+    EXPECT_EQ(item->saveCount(), savedBefore + 2) << item->Subject();
+  }
+}
+
+TEST_F(TagSelectionTest, ASelectionChangeDuringTheLoopIsCaughtByTheGuardAfterwards) {
+  Connect();
+  auto a = Appointment("A");
+  auto b = Appointment("B");
+  auto other = Appointment("Other");
+  Select({a, b});
+  const std::string noted = a->EntryId();
+  // The user clicks another item while the first tag is being written.
+  host().Pending().Post([&] { Select({other}); });
+  EXPECT_TRUE(Tag("Alpha", noted));
+  // The loop works the selection it was given to its end.
+  EXPECT_EQ(Prop(*a, "ProjectValue"), "Alpha");
+  EXPECT_EQ(Prop(*b, "ProjectValue"), "Alpha");
+  EXPECT_EQ(Prop(*other, "ProjectValue"), "(none)");
+  // The next tag of the same command finds another single item: nothing.
+  EXPECT_FALSE(Actions::GetCurrentSelectedItem(s(), "ActivityValue", "", noted));
+  EXPECT_EQ(Prop(*other, "ActivityValue"), "(none)");
+  EXPECT_EQ(Prop(*a, "ActivityValue"), "(none)");
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(TagSelectionTest, AnItemDeletedDuringTheLoopIsPassedOver) {
+  Connect();
+  auto a = Appointment("A");
+  auto b = Appointment("B");
+  auto c = Appointment("C");
+  Select({a, b, c});
+  host().Pending().Post([&] { b->Delete(); });
+  EXPECT_TRUE(Tag("Alpha", ""));
+  EXPECT_EQ(Prop(*a, "ProjectValue"), "Alpha");
+  EXPECT_TRUE(b->UserProperties().list().empty());
+  EXPECT_EQ(Prop(*c, "ProjectValue"), "Alpha");
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(TagSelectionTest, AnItemThatRefusesItsValueIsReportedAndTheOthersAreTagged) {
+  Connect();
+  auto a = Appointment("A");
+  auto b = Appointment("B");
+  a->UserProperties()
+      .Add("ProjectValue", sim::kOlText, false)
+      ->FailMember("Value", sim::hresult::kFail, "read-only");
+  Select({a, b});
+  EXPECT_TRUE(Tag("Alpha", ""));
+  EXPECT_TRUE(Reported("Actions.TagProjectToItem", 20));
+  EXPECT_EQ(Prop(*b, "ProjectValue"), "Alpha");
+}
+
+TEST_F(TagSelectionTest, ARefusedSelectionIsReported) {
+  Connect();
+  auto a = Appointment("A");
+  Select({a});
+  host().FailAt("ActiveExplorer.Selection", sim::hresult::kFail, "no selection here");
+  EXPECT_FALSE(Tag("Alpha", a->EntryId()));
+  EXPECT_TRUE(Reported("Actions.GetCurrentSelectedItem", 50));
+  EXPECT_EQ(Prop(*a, "ProjectValue"), "(none)");
+}
+
+TEST_F(TagSelectionTest, AnItemWhoseIdCannotBeReadIsLeftAlone) {
+  Connect();
+  auto a = Appointment("A");
+  Select({a});
+  const std::string id = a->EntryId();
+  a->FailMember("EntryID", sim::hresult::kObjectDeleted, "The item has been moved or deleted.");
+  EXPECT_FALSE(Tag("Alpha", id));
+  EXPECT_EQ(Prop(*a, "ProjectValue"), "(none)");
+  EXPECT_TRUE(Reports().empty());
+}
+
+}  // namespace
+}  // namespace qvx::testing
