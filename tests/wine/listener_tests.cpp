@@ -50,19 +50,35 @@ WINE_TEST(Listener, ClientMessagesFromAnotherProcessReachTheAddin) {
   AddinSession session;
   session.Start();
   REQUIRE(FinishedLaunches().empty());
+  auto application = session.host().At("");
+  // 1 runs the unattended synchronisation, section 28: a marker that every
+  // message posted before it has been handled.
+  const auto handledSoFar = [](size_t launches) {
+    CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 1), 0u);
+    CHECK(PumpUntil([&] { return JournalLines() >= launches; }));
+  };
 
-  // 2: items changed, 3: no meaning, 0: settings changed; none starts anything.
-  for (int value : {2, 3, 0}) CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", value), 0u);
-  // 1: run the unattended synchronisation, section 28.
-  CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 1), 0u);
-  CHECK(PumpUntil([] { return JournalLines() >= 1; }));
-  CHECK_EQ(FinishedLaunches(), std::vector<std::string>{"28"});
+  // 3 means nothing: it is only kept.
+  const int before = application->CallCount("ActiveWindow");
+  CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 3), 0u);
+  handledSoFar(1);
+  CHECK_EQ(application->CallCount("ActiveWindow"), before);
+
+  // 2: items changed. The toolbars are refreshed, which asks the host for its active window.
+  CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 2), 0u);
+  handledSoFar(2);
+  const int afterItemsChanged = application->CallCount("ActiveWindow");
+  CHECK(afterItemsChanged > before);
+
+  // 0: settings changed. Read again, and the toolbars refreshed as well.
+  CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 0), 0u);
+  handledSoFar(3);
+  CHECK(application->CallCount("ActiveWindow") > afterItemsChanged);
 
   // The manager's message reaches the same window and starts nothing.
   CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Manager", 0), 0u);
-  CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 1), 0u);
-  CHECK(PumpUntil([] { return JournalLines() >= 2; }));
-  CHECK_EQ(FinishedLaunches(), (std::vector<std::string>{"28", "28"}));
+  handledSoFar(4);
+  CHECK_EQ(FinishedLaunches(), (std::vector<std::string>{"28", "28", "28", "28"}));
   CHECK(FindClientWindow() != nullptr);
   CHECK(Watcher().Take().empty());
 }
