@@ -4,12 +4,14 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 #include "harness/addin_session.h"
 #include "harness/check.h"
 #include "harness/companion_journal.h"
 #include "harness/registry_keys.h"
 #include "harness/ui_watcher.h"
+#include "sim/explorer.h"
 
 namespace qvx::winetest {
 namespace {
@@ -53,6 +55,27 @@ WINE_TEST(ErrorReport, AHostFailureShowsTheFirstReport) {
   CHECK_EQ(FinishedLaunches(), std::vector<std::string>{"28"});
   CHECK_EQ(session.BeginShutdown(), S_OK);
   CHECK(FindClientWindow() == nullptr);
+  DeleteTree(kSettingsKey);
+}
+
+WINE_TEST(ErrorReport, AHostThatCannotShowItsCalendarIsToldInAMessageBox) {
+  WriteSettings({{L"DBChoice", L"1"}});
+  ClearJournal();
+  Watcher().Take();
+  sim::Outlook::Options options;
+  options.withExplorer = false;
+  AddinSession session(options);
+  session.world().FailAt("Session.GetDefaultFolder", kHostError, "The folder is not there.");
+  session.Start();
+
+  const std::vector<SeenDialog> seen = Watcher().Take();
+  REQUIRE_EQ(seen.size(), size_t{1});
+  CHECK(seen[0].messageBox);
+  CHECK_EQ(seen[0].caption, std::wstring(L"Quorvix Client Addin"));
+  CHECK(seen[0].Shows(L"Can't access Outlook API!"));
+  // The start-up goes on after the box: the channel is open.
+  CHECK(FindClientWindow() != nullptr);
+  CHECK(session.world().Explorers().empty());
   DeleteTree(kSettingsKey);
 }
 
