@@ -82,7 +82,7 @@ echo "== running the COM tests under $(wine --version 2>/dev/null) in $prefix"
 # One virtual display for the prefix's set-up and the tests; the prefix's
 # server is stopped before the display goes away.
 set +e
-timeout 900 xvfb-run -a bash -c '
+timeout -k 30 900 xvfb-run -a bash -c '
   set -u
   if [[ ! -f "$WINEPREFIX/system.reg" ]]; then
     wineboot -i >/dev/null 2>&1 || { echo "wine tests: wineboot failed" >&2; exit 1; }
