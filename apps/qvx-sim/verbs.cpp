@@ -12,6 +12,8 @@ void RegisterAllVerbs(VerbTable& table) {
   RegisterCompanionVerbs(table);
   RegisterShowVerbs(table);
   RegisterMailLibraryVerbs(table);
+  RegisterSelectionVerbs(table);
+  RegisterReportVerbs(table);
 }
 
 void ExpectEqual(const std::string& expected, const std::string& seen) {

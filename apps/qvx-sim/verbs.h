@@ -16,6 +16,8 @@ void RegisterDialogVerbs(VerbTable& table);
 void RegisterCompanionVerbs(VerbTable& table);
 void RegisterShowVerbs(VerbTable& table);
 void RegisterMailLibraryVerbs(VerbTable& table);
+void RegisterSelectionVerbs(VerbTable& table);
+void RegisterReportVerbs(VerbTable& table);
 
 // Fails the expectation unless the two texts are equal.
 void ExpectEqual(const std::string& expected, const std::string& seen);

@@ -1,0 +1,82 @@
+#include "reporting/item_filters.h"
+
+#include <string>
+
+#include "addin/state.h"
+#include "core/failure.h"
+#include "core/text.h"
+#include "core/variant.h"
+#include "reporting/item_schema.h"
+
+namespace qvx {
+namespace {
+
+constexpr int32_t olAppointmentItem = 1;
+constexpr int32_t olFolderCalendar = 9;
+constexpr int32_t olFolderTasks = 13;
+
+const cMySettings& Settings(AddinState& s) {
+  if (!s.main.objMySettings) throw Failure::Runtime(err::kObjectNotSet);
+  return *s.main.objMySettings;
+}
+
+}  // namespace
+
+bool IsSupportMessageClass(AddinState& s, const Object& objItem) noexcept {
+  return TrappedResult<bool>(s, "Main.IsSupportMessageClass", [&](Line& line, bool& result) {
+    line = 10;
+    std::string messageClass;
+    // An item that has gone, or an object that is no item, is simply not ours.
+    IgnoreFailure(s.err, [&] { messageClass = UCase(objItem.Get("MessageClass").ToText()); });
+    s.err.Clear();
+    line = 20;
+    result = InStr(messageClass, schema::kClassTask) > 0 ||
+             InStr(messageClass, schema::kClassAppointment) > 0 ||
+             InStr(messageClass, schema::kClassAppointmentException) > 0;
+  });
+}
+
+bool IsDefaultFolder(AddinState& s, const Object& objFolder) noexcept {
+  return TrappedResult<bool>(s, "Main.IsDefaultFolder", [&](Line& line, bool& result) {
+    line = 10;
+    const cMySettings& settings = Settings(s);
+    bool restricted = false;
+    Object defaultFolder;
+    if (objFolder.Get("DefaultItemType").ToLong() == olAppointmentItem) {
+      line = 20;
+      if (settings.UseDefaultCalendarFolderOnly != 0) {
+        restricted = true;
+        defaultFolder =
+            s.main.objNameSpace.Call("GetDefaultFolder", {Variant(olFolderCalendar)}).ToObject();
+      }
+    } else {
+      line = 30;
+      if (settings.UseDefaultTaskFolderOnly != 0) {
+        restricted = true;
+        defaultFolder =
+            s.main.objNameSpace.Call("GetDefaultFolder", {Variant(olFolderTasks)}).ToObject();
+      }
+    }
+    line = 40;
+    if (!restricted) {
+      result = true;
+      return;
+    }
+    line = 50;
+    result = defaultFolder.Get("EntryID").ToText() == objFolder.Get("EntryID").ToText();
+  });
+}
+
+bool AreAllCustomFieldsActive(AddinState& s) noexcept {
+  return TrappedResult<bool>(s, "Main.AreAllCustomFieldsActive", [&](Line& line, bool& result) {
+    line = 10;
+    const cMySettings& c = Settings(s);
+    line = 20;
+    result = c.CustomList1Active != 0 || c.CustomList2Active != 0 || c.CustomList3Active != 0 ||
+             c.CustomList4Active != 0 || c.CustomField5Active != 0 || c.CustomField6Active != 0 ||
+             c.CustomField7Active != 0 || c.CustomField8Active != 0 || c.CustomField9Active != 0 ||
+             c.CustomField10Active != 0;
+  });
+}
+
+}  // namespace qvx
