@@ -14,6 +14,7 @@ void RegisterAllVerbs(VerbTable& table) {
   RegisterMailLibraryVerbs(table);
   RegisterSelectionVerbs(table);
   RegisterReportVerbs(table);
+  RegisterTaggingVerbs(table);
 }
 
 void ExpectEqual(const std::string& expected, const std::string& seen) {
