@@ -54,6 +54,12 @@ class OrderedDictionary {
     auto it = index_.find(FoldCase(key));
     return it == index_.end() ? nullptr : &entries_[it->second].value;
   }
+  // The 0-based enumeration position of a key, or npos; constant time.
+  static constexpr size_t npos = static_cast<size_t>(-1);
+  size_t IndexOf(std::string_view key) const {
+    auto it = index_.find(FoldCase(key));
+    return it == index_.end() ? npos : it->second;
+  }
   // The stored spelling of a key, or nullptr.
   const std::string* StoredKey(std::string_view key) const {
     auto it = index_.find(FoldCase(key));

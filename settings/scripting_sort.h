@@ -5,18 +5,16 @@
 // without regard to case. A dictionary of one entry or none comes back as
 // given. The caller replaces its dictionary with the result.
 //
-// The order is that of the exchange sort the lists have always had: for each
-// position, swap in any later row that compares smaller. Among rows that
-// never compare equal that is plain ascending order, which a stable sort gives
-// in O(n log n); keys of a dictionary never tie, so that is the usual path.
-// Only rows that tie (possible in column 2) take the exchange sort itself,
-// whose order among equals is its own.
+// The order is exactly that of the exchange sort the lists have always had:
+// for each position i, every later row j that compares smaller is swapped into
+// i. Rows that never tie come out in plain ascending order; rows that tie
+// (possible in column 2 only, keys are unique) come out in the exchange sort's
+// own order among equals, which is not their input order. ExchangeSortOrder
+// computes that order without the quadratic number of comparisons.
 //
 //   dicList = Scripting::Sort(dicList);   // "10" before "9": text order
 #pragma once
 
-#include <algorithm>
-#include <numeric>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -27,6 +25,11 @@
 #include "core/text.h"
 
 namespace qvx::Scripting {
+
+// The permutation the exchange sort applies to rows whose case-folded sort
+// texts are `folded`: result[p] is the input row that ends at position p.
+// O(n log n) comparisons and O(n log n) extra work for ties.
+std::vector<size_t> ExchangeSortOrder(const std::vector<std::string>& folded);
 
 template <class V>
 OrderedDictionary<V> Sort(const OrderedDictionary<V>& dic, int column = 1) {
@@ -44,24 +47,8 @@ OrderedDictionary<V> Sort(const OrderedDictionary<V>& dic, int column = 1) {
       throw Failure::Runtime(err::kTypeMismatch);  // an object item has no text
     }
   }
-  std::vector<size_t> order(rows.size());
-  std::iota(order.begin(), order.end(), size_t{0});
-  std::stable_sort(order.begin(), order.end(),
-                   [&](size_t a, size_t b) { return folded[a] < folded[b]; });
-  bool ties = false;
-  for (size_t i = 1; i < order.size() && !ties; ++i) {
-    ties = folded[order[i - 1]] == folded[order[i]];
-  }
-  if (ties) {
-    std::iota(order.begin(), order.end(), size_t{0});
-    for (size_t i = 0; i + 1 < order.size(); ++i) {
-      for (size_t j = i; j < order.size(); ++j) {
-        if (folded[order[i]] > folded[order[j]]) std::swap(order[i], order[j]);
-      }
-    }
-  }
   OrderedDictionary<V> sorted;
-  for (const size_t at : order) sorted.Add(rows[at].key, rows[at].value);
+  for (const size_t at : ExchangeSortOrder(folded)) sorted.Add(rows[at].key, rows[at].value);
   return sorted;
 }
 

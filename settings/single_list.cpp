@@ -5,6 +5,7 @@
 #include "addin/state.h"
 #include "core/text.h"
 #include "core/trap.h"
+#include "settings/combo_fill.h"
 #include "settings/scripting_sort.h"
 
 namespace qvx {
@@ -30,10 +31,12 @@ void cSingleList::AddIfAbsent(std::string_view item) {
 int16_t cSingleList::getItemIndex(AddinState& s, std::string_view Item) {
   return TrappedResult<int16_t>(s, "SingleList.getItemIndex", [&](Line& line, int16_t& result) {
     line = 10;
-    size_t position = 0;
-    for (const auto& entry : dicList) {
-      if (entry.value == Item) break;  // exact, though the keys ignore case
-      ++position;
+    // Keys ignore case but the comparison is exact: with key and item the
+    // same text, only the entry under Item's key can equal it, so the
+    // dictionary's index answers without a walk (the ribbon asks per row).
+    size_t position = dicList.IndexOf(Item);
+    if (position == dicList.npos || dicList.Entries()[position].value != Item) {
+      position = dicList.Count();
     }
     line = 20;
     result = ToIndex(position);
@@ -83,41 +86,8 @@ void cSingleList::FromString(AddinState& s, std::string_view Text, std::string_v
 void cSingleList::PopulateComboList(AddinState& s, const Object& Control, std::string& Value,
                                     bool AddBlank) {
   Trapped(s, "SingleList.PopulateComboList", [&](Line& line) {
-    line = 10;
-    const std::string shown = Control.Get("Text").ToText();
-    line = 20;
-    Control.Call("Clear");
-    line = 30;
-    for (const auto& entry : dicList) {
-      if (!Trim(entry.value).empty()) Control.Call("AddItem", {Variant(entry.value)});
-    }
-    line = 40;
-    if (AddBlank) Control.Call("AddItem", {Variant("")});
-    line = 50;
-    if (!shown.empty()) Value = shown;  // the text the control showed wins
-    line = 60;
-    if (Value.empty()) return;
-    bool failed = !IgnoreFailure(s.err, [&] { Control.Put("Text", Variant(Value)); });
-    if (!shown.empty()) {
-      failed = !IgnoreFailure(s.err, [&] { Control.Put("Text", Variant(shown)); }) || failed;
-    }
-    if (failed) {
-      // A control whose text is read-only: select the row instead.
-      s.err.Clear();
-      int32_t count = 0;
-      if (IgnoreFailure(s.err, [&] { count = Control.Get("ListCount").ToLong(); })) {
-        for (int32_t i = 0; i <= count; ++i) {
-          bool equal = false;
-          IgnoreFailure(s.err,
-                        [&] { equal = Control.Get("List", {Variant(i)}).ToText() == Value; });
-          if (equal) {
-            IgnoreFailure(s.err, [&] { Control.Put("ListIndex", Variant(i)); });
-            break;
-          }
-        }
-      }
-    }
-    s.err.Clear();
+    FillComboList(s, line, Control, Value, AddBlank, dicList,
+                  [](const auto& entry) -> const std::string& { return entry.value; });
   });
 }
 

@@ -32,10 +32,11 @@ class cSingleList {
  public:
   std::string ListName;      // untouched here
   int16_t intColorCode = 0;  // untouched here
+  // Each entry's key is its item; getItemIndex relies on it.
   OrderedDictionary<std::string> dicList;
 
   // 0-based position of the first item equal to Item, case included; the
-  // count when there is none.
+  // count when there is none. Constant time, like GetItem.
   int16_t getItemIndex(AddinState& s, std::string_view Item);
   // The item at a 0-based index, trimmed; "" outside the list.
   std::string GetItem(AddinState& s, int16_t Index);
