@@ -1,22 +1,40 @@
-// cTasksPerProjectList: the catalogue of projects and their activities, kept
+// cTasksPerProjectList: the catalogue of projects and their activities, held
 // as the text of the registry value "MyProjectsTasks".
 //
-// For now this is the catalogue's seam only: it keeps the text as read and
-// gives it back unchanged, and it knows no projects. The parser and the tree
-// of projects and activities come with the catalogue itself; the signatures
-// here are the ones the settings record calls.
+// `dicList` holds the projects under their names, case-blind, in the order
+// of the text (never sorted on reading); the first project of a name wins.
+//
+// Text: one line per project, joined by CR LF with none after the last. A
+// line is the project record (cProjectClient), ":", and the activity records
+// (cTasksClient) joined by ";"; the ":" stays when there are none. Names and
+// dates pass through EncodeValue and DecodeValue, so ":", ";" and "," inside
+// a name split nothing. A text written by ToString reads back to the same
+// tree and writes again character for character:
+//
+//   Alpha_COMMA_ phase 1,5,2011-3-1,:Design,2011-4-15;Review_COLON_ final,
+//   Beta,0,,:
+//
+// Reading keeps one quirk: a project line whose colour or dates are missing
+// (or whose colour is no number) takes them from the line before it.
+//
+// Failures are reported under "cTasksPerProjectList.FromString",
+// "cTasksPerProjectList.ToString" and "cTasksPerProjectList.GetProjectsList".
+// A failed read (an empty line, a line with no ":") keeps the projects read
+// so far and loses the rest of the text.
 //
 //   cTasksPerProjectList catalogue;
 //   catalogue.FromString(s, text);
-//   catalogue.ToString(s) == text;
-//   std::shared_ptr<cSingleList> projects = catalogue.GetProjectsList(s);  // empty
+//   auto* project = catalogue.dicList.Find("alpha, PHASE 1");   // case-blind
+//   std::shared_ptr<cSingleList> names = catalogue.GetProjectsList(s);
 #pragma once
 
 #include <memory>
 #include <string>
 #include <string_view>
 
+#include "core/ordered_dictionary.h"
 #include "settings/single_list.h"
+#include "settings/tasks_per_project.h"
 
 namespace qvx {
 
@@ -24,15 +42,14 @@ class AddinState;
 
 class cTasksPerProjectList {
  public:
+  OrderedDictionary<std::shared_ptr<cTasksPerProject>> dicList;
+
+  // A new list of the non-empty project names, in catalogue order, unsorted.
+  std::shared_ptr<cSingleList> GetProjectsList(AddinState& s);
+  // The catalogue as text.
+  std::string ToString(AddinState& s);
   // Replaces the catalogue by the one the text describes.
   void FromString(AddinState& s, std::string_view Text);
-  // The catalogue as text, project lines joined by CR LF.
-  std::string ToString(AddinState& s);
-  // A new list of the project names, in catalogue order.
-  std::shared_ptr<cSingleList> GetProjectsList(AddinState& s);
-
- private:
-  std::string text_;
 };
 
 }  // namespace qvx

@@ -1,0 +1,46 @@
+// Helpers for the catalogue tests: a settings fixture with a catalogue, and
+// short views of the tree.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/dates.h"
+#include "settings/tasks_per_project_list.h"
+#include "settings_fixture.h"
+
+namespace qvx::testing {
+
+using Strings = std::vector<std::string>;
+
+struct CatalogueFixture : SettingsFixture {
+  cTasksPerProjectList catalogue;
+
+  // The project names in enumeration order.
+  Strings Projects() const {
+    Strings names;
+    for (const auto& entry : catalogue.dicList) names.push_back(entry.value->Project->ListName);
+    return names;
+  }
+  const cTasksPerProject& Project(std::string_view name) const {
+    const auto* found = catalogue.dicList.Find(name);
+    if (found == nullptr) throw std::runtime_error("no project " + std::string(name));
+    return **found;
+  }
+  // The label of the one report shown, or "" when none was.
+  std::string ReportedLabel() const {
+    return ui.reports.empty() ? std::string() : ReportLine(ui.reports.front(), 1);
+  }
+};
+
+inline Strings Activities(const cTasksPerProject& project) {
+  Strings names;
+  for (const auto& entry : project.dicList) names.push_back(entry.value->Activity);
+  return names;
+}
+
+inline DateValue Day(int year, int month, int day) {
+  return DateSerial(year, month, day);
+}
+
+}  // namespace qvx::testing

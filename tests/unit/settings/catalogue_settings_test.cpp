@@ -1,0 +1,87 @@
+// ReadSettings fills the catalogue and the project names from
+// "MyProjectsTasks"; SaveSettings writes the catalogue back.
+#include <gtest/gtest.h>
+
+#include "catalogue_fixture.h"
+#include "settings/my_settings.h"
+
+namespace qvx {
+namespace {
+
+using testing::Activities;
+using testing::kQvxKey;
+using testing::Strings;
+
+struct Settings : testing::SettingsFixture {
+  cMySettings settings;
+  void Store(const char* name, const std::string& text) {
+    ASSERT_TRUE(registry.SetString(kQvxKey, name, text));
+  }
+};
+
+Strings Names(const cSingleList& list) {
+  Strings names;
+  for (const auto& entry : list.dicList) names.push_back(entry.value);
+  return names;
+}
+
+constexpr const char* kCatalogue =
+    "Zeta,2,,:Plan,;Build,2024-5-1\r\nalpha,0,2024-1-1,:\r\nALPHA,9,,:x,\r\n,4,,:";
+
+TEST(CatalogueSettings, ReadSettingsFillsTheCatalogueAndTheProjects) {
+  Settings f;
+  f.Store("MyProjectsTasks", kCatalogue);
+  f.settings.ReadSettings(f.s);
+  EXPECT_EQ(f.settings.ProjectsTasksList, kCatalogue);
+  ASSERT_NE(f.settings.MyProjectsTasks, nullptr);
+  const auto& catalogue = *f.settings.MyProjectsTasks;
+  EXPECT_EQ(catalogue.dicList.Count(), 3u);  // "ALPHA" dropped
+  EXPECT_EQ(Activities(**catalogue.dicList.Find("zeta")), (Strings{"Plan", "Build"}));
+  // In the stored order, not sorted, without the nameless project.
+  ASSERT_NE(f.settings.Projects, nullptr);
+  EXPECT_EQ(Names(*f.settings.Projects), (Strings{"Zeta", "alpha"}));
+  EXPECT_TRUE(f.ui.reports.empty());
+}
+
+TEST(CatalogueSettings, ABadCatalogueIsReportedAndTheReadGoesOn) {
+  Settings f;
+  f.Store("MyProjectsTasks", "Kept,1,,:\r\nno colon here\r\nLost,2,,:");
+  f.Store("CustomFieldsTitle", "Extras");
+  f.Store("CustomList1Active", "1");
+  f.settings.ReadSettings(f.s);
+  EXPECT_EQ(Names(*f.settings.Projects), (Strings{"Kept"}));
+  EXPECT_EQ(f.settings.CustomFieldsTitle, "Extras");
+  EXPECT_EQ(f.settings.CustomList1Active, 1);
+  ASSERT_EQ(f.ui.reports.size(), 1u);
+  EXPECT_EQ(testing::ReportLine(f.ui.reports[0], 1),
+            "In Function: cTasksPerProjectList.FromString");
+}
+
+TEST(CatalogueSettings, ReadingAgainReplacesTheCatalogue) {
+  Settings f;
+  f.Store("MyProjectsTasks", kCatalogue);
+  f.settings.ReadSettings(f.s);
+  const std::shared_ptr<cSingleList> before = f.settings.Projects;
+  f.Store("MyProjectsTasks", "Only,1,,:");
+  f.settings.ReadSettings(f.s);
+  EXPECT_EQ(Names(*f.settings.Projects), (Strings{"Only"}));
+  EXPECT_EQ(Names(*before), (Strings{"Zeta", "alpha"}));  // a holder keeps its old list
+  EXPECT_EQ(f.settings.MyProjectsTasks->dicList.Count(), 1u);
+}
+
+TEST(CatalogueSettings, SaveSettingsWritesTheCatalogueText) {
+  Settings f;
+  f.Store("MyProjectsTasks", kCatalogue);
+  f.settings.ReadSettings(f.s);
+  auto task = std::make_shared<cTasksClient>();
+  task->Activity = "New; step";
+  (*f.settings.MyProjectsTasks->dicList.Find("alpha"))->dicList.Add(task->Activity, task);
+  f.settings.SaveSettings(f.s);
+  const std::string expected =
+      "Zeta,2,,:Plan,;Build,2024-5-1\r\nalpha,0,2024-1-1,:New_SCOLON_ step,\r\n,4,,:";
+  EXPECT_EQ(f.settings.ProjectsTasksList, expected);
+  EXPECT_EQ(f.registry.ReadString(kQvxKey, "MyProjectsTasks"), expected);
+}
+
+}  // namespace
+}  // namespace qvx
