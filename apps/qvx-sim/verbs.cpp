@@ -14,6 +14,7 @@ void RegisterAllVerbs(VerbTable& table) {
   RegisterMailLibraryVerbs(table);
   RegisterSelectionVerbs(table);
   RegisterReportVerbs(table);
+  RegisterCatalogueVerbs(table);
   RegisterTaggingVerbs(table);
 }
 

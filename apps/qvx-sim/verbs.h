@@ -18,6 +18,7 @@ void RegisterShowVerbs(VerbTable& table);
 void RegisterMailLibraryVerbs(VerbTable& table);
 void RegisterSelectionVerbs(VerbTable& table);
 void RegisterReportVerbs(VerbTable& table);
+void RegisterCatalogueVerbs(VerbTable& table);
 void RegisterTaggingVerbs(VerbTable& table);
 
 // Fails the expectation unless the two texts are equal.
