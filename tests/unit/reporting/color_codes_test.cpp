@@ -2,10 +2,10 @@
 // master category list.
 #include "reporting/color_codes.h"
 
-#include "unit/reporting/tagging_fixture.h"
 #include "sim/categories.h"
 #include "sim/name_space.h"
 #include "sim/outlook.h"
+#include "unit/reporting/tagging_fixture.h"
 
 namespace qvx::testing {
 namespace {

@@ -2,9 +2,9 @@
 #include "reporting/tag_dates.h"
 
 #include "reporting/tag_item.h"
-#include "unit/reporting/tagging_fixture.h"
 #include "sim/faults.h"
 #include "sim/mail_item.h"
+#include "unit/reporting/tagging_fixture.h"
 
 namespace qvx::testing {
 namespace {

@@ -2,8 +2,8 @@
 // category, the save, and items that have gone or refuse.
 #include "reporting/tag_item.h"
 
-#include "unit/reporting/tagging_fixture.h"
 #include "sim/faults.h"
+#include "unit/reporting/tagging_fixture.h"
 
 namespace qvx::testing {
 namespace {

@@ -2,10 +2,10 @@
 // the activity rule of a project change, and the tagging-in-progress flag.
 #include "reporting/tag_values.h"
 
-#include "unit/reporting/tagging_fixture.h"
 #include "settings/tasks_per_project_list.h"
 #include "sim/faults.h"
 #include "sim/outlook.h"
+#include "unit/reporting/tagging_fixture.h"
 
 namespace qvx::testing {
 namespace {
