@@ -3,6 +3,7 @@
 //
 //   const std::string& name = Part(fields, 0);    // Failure 9 when absent
 //   cProjectClient& project = Require(entry.value);  // Failure 91 when unset
+//   std::string name = Decoded(s, "a_COMMA_b");      // "a,b"
 #pragma once
 
 #include <memory>
@@ -10,6 +11,8 @@
 #include <vector>
 
 #include "core/failure.h"
+#include "core/variant.h"
+#include "reporting/value_codecs.h"
 
 namespace qvx::catalogue {
 
@@ -28,6 +31,20 @@ template <class T>
 T& Require(const std::shared_ptr<T>& object) {
   if (!object) throw Failure::Runtime(err::kObjectNotSet);
   return *object;
+}
+
+// EncodeValue of a name or date text. A text without ":", ";" or "," encodes
+// to itself.
+inline std::string Encoded(AddinState& s, const std::string& text) {
+  if (text.find_first_of(":;,") == std::string::npos) return text;
+  return EncodeValue(s, Variant(text));
+}
+
+// DecodeValue of a field. A field without "_" holds no token and decodes to
+// itself, which spares the three replacements on most names and dates.
+inline std::string Decoded(AddinState& s, const std::string& field) {
+  if (field.find('_') == std::string::npos) return field;
+  return DecodeValue(s, Variant(field));
 }
 
 }  // namespace qvx::catalogue

@@ -13,6 +13,7 @@
 
 namespace qvx {
 
+using catalogue::Decoded;
 using catalogue::Part;
 using catalogue::Require;
 
@@ -77,7 +78,7 @@ void cTasksPerProject::FromString(AddinState& s, std::string_view Text,
       auto task = std::make_shared<cTasksClient>();
       const auto name = [&] {
         fields = Split(part, ",");
-        task->Activity = DecodeValue(s, Variant(Part(fields, 0)));
+        task->Activity = Decoded(s, Part(fields, 0));
       };
       if (ignoring) {
         IgnoreFailure(s.err, name);
@@ -87,9 +88,8 @@ void cTasksPerProject::FromString(AddinState& s, std::string_view Text,
       }
       ignoring = true;
       line = 40;
-      IgnoreFailure(s.err, [&] {
-        task->DueDate = FromQuorvixDateFormat(s, DecodeValue(s, Variant(Part(fields, 1))));
-      });
+      IgnoreFailure(s.err,
+                    [&] { task->DueDate = FromQuorvixDateFormat(s, Decoded(s, Part(fields, 1))); });
       s.err.Clear();
       line = 50;
       IgnoreFailure(s.err, [&] {

@@ -11,6 +11,7 @@
 
 namespace qvx {
 
+using catalogue::Decoded;
 using catalogue::Part;
 using catalogue::Require;
 
@@ -66,16 +67,12 @@ void cTasksPerProjectList::FromString(AddinState& s, std::string_view Text) {
       const std::vector<std::string> parts = Split(text, ":");
       const std::vector<std::string> fields = Split(Part(parts, 0), ",");
       line = 30;
-      const std::string name = DecodeValue(s, Variant(Part(fields, 0)));
+      const std::string name = Decoded(s, Part(fields, 0));
       line = 40;
       IgnoreFailure(s.err, [&] { color = Variant(Part(fields, 1)).ToInteger(); });
       s.err.Clear();
-      IgnoreFailure(s.err, [&] {
-        start = FromQuorvixDateFormat(s, DecodeValue(s, Variant(Part(fields, 2))));
-      });
-      IgnoreFailure(s.err, [&] {
-        finish = FromQuorvixDateFormat(s, DecodeValue(s, Variant(Part(fields, 3))));
-      });
+      IgnoreFailure(s.err, [&] { start = FromQuorvixDateFormat(s, Decoded(s, Part(fields, 2))); });
+      IgnoreFailure(s.err, [&] { finish = FromQuorvixDateFormat(s, Decoded(s, Part(fields, 3))); });
       s.err.Clear();
       line = 50;
       const std::string& activities = Part(parts, 1);

@@ -1,0 +1,106 @@
+// The keyed list at the size of a long drop-down: reading 10,000 entries
+// against the legacy exchange sort, and one ribbon refresh of all rows.
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <random>
+
+#include "bench_state.h"
+#include "exchange_sort_reference.h"
+#include "settings/single_list.h"
+
+namespace qvx::bench {
+namespace {
+
+constexpr char kBreak[] = "\r\n";
+
+// Distinct entries in random order and mixed case, a few repeated in another case.
+std::string ListText(size_t count) {
+  std::mt19937 random(2024);
+  std::vector<std::string> lines;
+  for (size_t i = 0; i < count; ++i) {
+    std::string line = (random() % 2 ? "Item " : "item ") + std::to_string(random() % 1000000);
+    if (i % 50 == 0) line += " \xC3\xA9tude";
+    lines.push_back(std::move(line));
+  }
+  for (size_t i = 0; i < count / 100; ++i) lines.push_back(UCase(lines[i * 7]));
+  std::shuffle(lines.begin(), lines.end(), random);
+  return Join(lines, kBreak);
+}
+
+void BM_SingleListFromString(benchmark::State& state) {
+  BenchState b;
+  const std::string text = ListText(static_cast<size_t>(state.range(0)));
+  cSingleList list;
+  for (auto _ : state) {
+    list.FromString(b.s, text, kBreak);
+    benchmark::DoNotOptimize(list.dicList.Count());
+  }
+  if (!b.Clean()) state.SkipWithError("a failure was reported");
+  state.counters["entries"] = static_cast<double>(list.dicList.Count());
+}
+BENCHMARK(BM_SingleListFromString)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
+// The legacy reading, once per run (it is quadratic), with the ratio to ours
+// measured on the same text: "times_faster" is legacy time over ours.
+void BM_SingleListFromStringLegacyExchangeSort(benchmark::State& state) {
+  using Clock = std::chrono::steady_clock;
+  BenchState b;
+  const std::string text = ListText(static_cast<size_t>(state.range(0)));
+  double legacySeconds = 0;
+  std::vector<std::string> rows;
+  for (auto _ : state) {
+    const auto start = Clock::now();
+    rows = ReferenceFromString(text, kBreak);
+    benchmark::DoNotOptimize(rows.data());
+    const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
+    state.SetIterationTime(seconds);
+    legacySeconds += seconds;
+  }
+  legacySeconds /= static_cast<double>(state.iterations());
+
+  cSingleList list;
+  constexpr int kOurRuns = 20;
+  const auto start = Clock::now();
+  for (int i = 0; i < kOurRuns; ++i) list.FromString(b.s, text, kBreak);
+  const double ourSeconds = std::chrono::duration<double>(Clock::now() - start).count() / kOurRuns;
+
+  std::vector<std::string> ours;
+  for (const auto& entry : list.dicList) ours.push_back(entry.value);
+  if (ours != rows) state.SkipWithError("the orders differ");
+  if (!b.Clean()) state.SkipWithError("a failure was reported");
+  state.counters["legacy_ms"] = legacySeconds * 1e3;
+  state.counters["ours_ms"] = ourSeconds * 1e3;
+  state.counters["times_faster"] = legacySeconds / ourSeconds;
+}
+BENCHMARK(BM_SingleListFromStringLegacyExchangeSort)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Iterations(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+// One refresh of a drop-down as the ribbon asks for it: per row its label by
+// index, then the selected row's index by text.
+void BM_SingleListRibbonRefresh(benchmark::State& state) {
+  BenchState b;
+  cSingleList list;
+  list.FromString(b.s, ListText(static_cast<size_t>(state.range(0))), kBreak);
+  const auto count = static_cast<int16_t>(list.dicList.Count());
+  for (auto _ : state) {
+    int64_t sum = 0;
+    for (int16_t i = 0; i < count; ++i) {
+      const std::string label = list.GetItem(b.s, i);
+      sum += list.getItemIndex(b.s, list.dicList.Entries()[static_cast<size_t>(i)].value);
+      benchmark::DoNotOptimize(label.data());
+    }
+    benchmark::DoNotOptimize(sum);
+  }
+  if (!b.Clean()) state.SkipWithError("a failure was reported");
+  state.SetItemsProcessed(state.iterations() * count);
+}
+BENCHMARK(BM_SingleListRibbonRefresh)->Arg(1000)->Arg(10000)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace qvx::bench
