@@ -62,7 +62,9 @@ HRESULT QVXClientDLL::QueryInterface(REFIID riid, void** ppv) noexcept {
   return S_OK;
 }
 
-ULONG QVXClientDLL::AddRef() noexcept { return InterlockedIncrement(&refs_); }
+ULONG QVXClientDLL::AddRef() noexcept {
+  return InterlockedIncrement(&refs_);
+}
 
 ULONG QVXClientDLL::Release() noexcept {
   const ULONG n = InterlockedDecrement(&refs_);

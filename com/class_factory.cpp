@@ -17,7 +17,9 @@ HRESULT ClassFactory::QueryInterface(REFIID riid, void** ppv) noexcept {
   return S_OK;
 }
 
-ULONG ClassFactory::AddRef() noexcept { return InterlockedIncrement(&refs_); }
+ULONG ClassFactory::AddRef() noexcept {
+  return InterlockedIncrement(&refs_);
+}
 
 ULONG ClassFactory::Release() noexcept {
   const ULONG n = InterlockedDecrement(&refs_);

@@ -43,8 +43,8 @@ inline constexpr IID IID_IRibbonUI = {
 
 struct IDTExtensibility2 : public IDispatch {
   virtual HRESULT STDMETHODCALLTYPE OnConnection(IDispatch* application,
-                                                 ext_ConnectMode connectMode,
-                                                 IDispatch* addInInst, SAFEARRAY** custom) = 0;
+                                                 ext_ConnectMode connectMode, IDispatch* addInInst,
+                                                 SAFEARRAY** custom) = 0;
   virtual HRESULT STDMETHODCALLTYPE OnDisconnection(ext_DisconnectMode removeMode,
                                                     SAFEARRAY** custom) = 0;
   virtual HRESULT STDMETHODCALLTYPE OnAddInsUpdate(SAFEARRAY** custom) = 0;

@@ -14,9 +14,15 @@ struct Entry {
   RegistryValue value;
 };
 
-std::wstring ClassKey() { return std::wstring(kClassesKey) + L"\\CLSID\\" + kClsidText; }
-std::wstring ProgIdKey() { return std::wstring(kClassesKey) + L"\\" + kProgId; }
-std::wstring AddinKey() { return std::wstring(kOutlookAddinsKey) + L"\\" + kProgId; }
+std::wstring ClassKey() {
+  return std::wstring(kClassesKey) + L"\\CLSID\\" + kClsidText;
+}
+std::wstring ProgIdKey() {
+  return std::wstring(kClassesKey) + L"\\" + kProgId;
+}
+std::wstring AddinKey() {
+  return std::wstring(kOutlookAddinsKey) + L"\\" + kProgId;
+}
 
 // Everything registration writes, in writing order.
 std::vector<Entry> Layout(const std::wstring& dllPath) {
@@ -37,8 +43,8 @@ std::vector<Entry> Layout(const std::wstring& dllPath) {
 // The keys registration owns, deepest first, for unregistration.
 std::vector<std::wstring> OwnKeys() {
   const std::wstring cls = ClassKey();
-  return {cls + L"\\InprocServer32", cls + L"\\ProgID", cls, ProgIdKey() + L"\\CLSID",
-          ProgIdKey(), AddinKey()};
+  return {cls + L"\\InprocServer32", cls + L"\\ProgID", cls,
+          ProgIdKey() + L"\\CLSID",  ProgIdKey(),       AddinKey()};
 }
 
 // What has been done so far, to be undone in reverse.
@@ -159,8 +165,7 @@ HRESULT UnregisterServer(RegistryWriter& registry) noexcept {
 
 bool Win32RegistryWriter::KeyExists(const std::wstring& key) {
   win32::UniqueHkey handle;
-  return RegOpenKeyExW(HKEY_CURRENT_USER, key.c_str(), 0, KEY_READ, handle.Put()) ==
-         ERROR_SUCCESS;
+  return RegOpenKeyExW(HKEY_CURRENT_USER, key.c_str(), 0, KEY_READ, handle.Put()) == ERROR_SUCCESS;
 }
 
 LSTATUS Win32RegistryWriter::CreateKey(const std::wstring& key) {

@@ -1,12 +1,14 @@
 // Self-registration, per user only (HKEY_CURRENT_USER):
 //
-//   Software\Classes\CLSID\{clsid}                (Default) "QVX_C.QVXClientDLL"
-//     InprocServer32                              (Default) the DLL's path, ThreadingModel "Apartment"
-//     ProgID                                      (Default) "QVX_C.QVXClientDLL"
-//   Software\Classes\QVX_C.QVXClientDLL           (Default) "QVX_C.QVXClientDLL"
-//     CLSID                                       (Default) "{clsid}"
+// clang-format off
+//   Software\Classes\CLSID\{clsid}        (Default) "QVX_C.QVXClientDLL"
+//     InprocServer32                      (Default) the DLL's path, ThreadingModel "Apartment"
+//     ProgID                              (Default) "QVX_C.QVXClientDLL"
+//   Software\Classes\QVX_C.QVXClientDLL   (Default) "QVX_C.QVXClientDLL"
+//     CLSID                               (Default) "{clsid}"
 //   Software\Microsoft\Office\Outlook\Addins\QVX_C.QVXClientDLL
-//                                                 FriendlyName, Description (REG_SZ), LoadBehavior (DWORD 3)
+//                                         FriendlyName, Description (REG_SZ), LoadBehavior (DWORD 3)
+// clang-format on
 //
 // Registration that fails half-way undoes what it did: keys it created go,
 // values it replaced get their old data back. Unregistration removes the

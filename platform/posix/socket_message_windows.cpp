@@ -23,8 +23,8 @@ bool AddressOf(std::string_view caption, sockaddr_un& address, socklen_t& length
   // Tests and scenarios that run side by side each take a namespace of their own.
   const char* space = std::getenv("QVX_WINDOW_NAMESPACE");
   const std::string name = "qvx-window/" +
-                           (space && *space ? std::string(space) : std::to_string(getuid())) +
-                           "/" + std::string(caption);
+                           (space && *space ? std::string(space) : std::to_string(getuid())) + "/" +
+                           std::string(caption);
   if (name.size() + 1 > sizeof(address.sun_path)) return false;
   std::memset(&address, 0, sizeof address);
   address.sun_family = AF_UNIX;

@@ -27,11 +27,11 @@ Outcome RunText(std::string_view text) {
 }
 
 TEST(ScenarioRunner, AFailedExpectationNamesItsLineWhatWasExpectedAndWhatWasSeen) {
-  const Outcome o =
-      RunText("registry set DBChoice 0\n"
-          "addin start\n"
-          "expect launch QuorvixClient 28\n"
-          "expect no-launch\n");
+  const Outcome o = RunText(
+      "registry set DBChoice 0\n"
+      "addin start\n"
+      "expect launch QuorvixClient 28\n"
+      "expect no-launch\n");
   EXPECT_EQ(o.code, 1);
   EXPECT_NE(o.err.find("t.qvx:3: expect launch QuorvixClient 28\n"), std::string::npos) << o.err;
   EXPECT_NE(o.err.find("expected: \"28\""), std::string::npos) << o.err;
@@ -63,7 +63,8 @@ TEST(ScenarioRunner, StatementsThatDoNotFitTheirVerbAreErrorsWithTheirLine) {
 }
 
 TEST(ScenarioRunner, AScriptThatHoldsSaysSo) {
-  const Outcome o = RunText("registry set DBChoice 0\nregistry expect DBChoice 0\nexpect no-launch\n");
+  const Outcome o =
+      RunText("registry set DBChoice 0\nregistry expect DBChoice 0\nexpect no-launch\n");
   EXPECT_EQ(o.code, 0);
   EXPECT_EQ(o.out, "t.qvx: 3 statements, all held\n");
   EXPECT_EQ(o.err, "");
@@ -74,7 +75,7 @@ TEST(ScenarioRunner, RegistryExpectationsTellAbsentAndForeignValues) {
   EXPECT_EQ(RunText("registry set-dword N 4\nregistry expect N 4\n").code, 1);
   EXPECT_EQ(RunText("registry set-dword N 4\nregistry expect-absent N\n").code, 1);
   EXPECT_EQ(RunText("registry set Sub\\Key\\N v\nregistry expect Sub\\Key\\N v\n"
-                "registry expect-absent N\n")
+                    "registry expect-absent N\n")
                 .code,
             0);
 }
