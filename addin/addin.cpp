@@ -53,12 +53,14 @@ std::string QVXClientAddin::GetCustomUI(std::string_view) noexcept {
   return {};
 }
 
-bool QVXClientAddin::InvokeCallback(std::string_view, std::vector<Variant>&, Variant&) noexcept {
-  return false;
+CallbackOutcome QVXClientAddin::InvokeCallback(std::string_view name, std::vector<Variant>& args,
+                                               Variant& result,
+                                               std::optional<Failure>& failure) noexcept {
+  return InvokeRibbonCallback(*state_, name, args, result, failure);
 }
 
-bool QVXClientAddin::HasCallback(std::string_view) const noexcept {
-  return false;
+bool QVXClientAddin::HasCallback(std::string_view name) const noexcept {
+  return FindRibbonCallback(name) != nullptr;
 }
 
 }  // namespace qvx

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,7 @@
 #include "addin/state.h"
 #include "core/variant.h"
 #include "platform/platform.h"
+#include "ribbon/ribbon_callbacks.h"
 
 namespace qvx {
 
@@ -37,8 +39,10 @@ class QVXClientAddin {
 
   // A ribbon callback by name, as the host calls it through IDispatch.
   // Arguments in the order of the callback's signature (the COM layer
-  // reverses DISPPARAMS). Returns false if no callback has that name.
-  bool InvokeCallback(std::string_view name, std::vector<Variant>& args, Variant& result) noexcept;
+  // reverses DISPPARAMS); a failure the callback leaves to the host ends in
+  // `failure`.
+  CallbackOutcome InvokeCallback(std::string_view name, std::vector<Variant>& args, Variant& result,
+                                 std::optional<Failure>& failure) noexcept;
   // Whether a callback of that name exists (case-blind), for GetIDsOfNames.
   bool HasCallback(std::string_view name) const noexcept;
 

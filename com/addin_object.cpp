@@ -1,5 +1,6 @@
 #include "com/addin_object.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -101,7 +102,7 @@ HRESULT QVXClientDLL::GetIDsOfNames(REFIID riid, LPOLESTR* names, UINT count, LC
 }
 
 HRESULT QVXClientDLL::Invoke(DISPID id, REFIID riid, LCID, WORD flags, DISPPARAMS* params,
-                             VARIANT* result, EXCEPINFO*, UINT* argError) noexcept {
+                             VARIANT* result, EXCEPINFO* exception, UINT* argError) noexcept {
   return ComEntry([&]() -> HRESULT {
     if (!IsEqualIID(riid, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
     if (!params || (params->cArgs > 0 && !params->rgvarg)) return E_POINTER;
@@ -130,9 +131,18 @@ HRESULT QVXClientDLL::Invoke(DISPID id, REFIID riid, LCID, WORD flags, DISPPARAM
       }
     }
     Variant value;
-    if (!addin_->InvokeCallback(name, args, value)) {
-      // A known callback refuses an argument list that does not fit it.
-      return addin_->HasCallback(name) ? DISP_E_BADPARAMCOUNT : DISP_E_MEMBERNOTFOUND;
+    std::optional<Failure> failure;
+    switch (addin_->InvokeCallback(name, args, value, failure)) {
+      case CallbackOutcome::Done:
+        break;
+      case CallbackOutcome::UnknownName:
+        return DISP_E_MEMBERNOTFOUND;
+      case CallbackOutcome::WrongArgumentCount:
+        return DISP_E_BADPARAMCOUNT;
+      case CallbackOutcome::Failed:
+        // A failure the callback does not trap is the host's to handle.
+        if (failure) win32::FillExcepInfo(*failure, exception);
+        return DISP_E_EXCEPTION;
     }
     for (UINT i = 0; i < count && i < args.size(); ++i) {
       try {

@@ -16,6 +16,7 @@ void RegisterAllVerbs(VerbTable& table) {
   RegisterReportVerbs(table);
   RegisterCatalogueVerbs(table);
   RegisterTaggingVerbs(table);
+  RegisterRibbonVerbs(table);
 }
 
 void ExpectEqual(const std::string& expected, const std::string& seen) {

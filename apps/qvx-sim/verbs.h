@@ -20,6 +20,7 @@ void RegisterSelectionVerbs(VerbTable& table);
 void RegisterReportVerbs(VerbTable& table);
 void RegisterCatalogueVerbs(VerbTable& table);
 void RegisterTaggingVerbs(VerbTable& table);
+void RegisterRibbonVerbs(VerbTable& table);
 
 // Fails the expectation unless the two texts are equal.
 void ExpectEqual(const std::string& expected, const std::string& seen);

@@ -51,6 +51,15 @@ World::~World() {
   std::filesystem::remove_all(folder_, ignored);
 }
 
+sim::FakeObject& World::ribbonUi() {
+  if (!ribbonUi_) {
+    ribbonUi_ = std::make_shared<sim::FakeObject>("IRibbonUI");
+    ribbonUi_->Method("Invalidate", 0, 0, [](sim::Args&) { return Variant(); })
+        .Method("InvalidateControl", 1, 1, [](sim::Args&) { return Variant(); });
+  }
+  return *ribbonUi_;
+}
+
 QVXClientAddin& World::addin() {
   if (!addin_) {
     platform::Platform platform;

@@ -20,6 +20,7 @@
 #include "platform/posix/posix_system.h"
 #include "platform/posix/scripted_ui.h"
 #include "platform/posix/socket_message_windows.h"
+#include "sim/fake_object.h"
 #include "sim/mail_library_standin.h"
 #include "sim/outlook.h"
 
@@ -49,6 +50,9 @@ class World {
   // The add-in, made on first use (as the host loads it).
   QVXClientAddin& addin();
   bool HasAddin() const { return addin_ != nullptr; }
+
+  // The host's ribbon (IRibbonUI), handed to the add-in when the ribbon loads.
+  sim::FakeObject& ribbonUi();
 
   // Lets pending work through: queued host events and window messages.
   void Pump();
@@ -83,6 +87,7 @@ class World {
   std::unique_ptr<sim::Outlook> host_;
   std::unique_ptr<sim::MailLibraryStandIn> mailLibrary_;
   std::unique_ptr<QVXClientAddin> addin_;
+  std::shared_ptr<sim::FakeObject> ribbonUi_;
 };
 
 }  // namespace qvx::scenario

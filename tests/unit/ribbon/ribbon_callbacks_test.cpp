@@ -1,0 +1,84 @@
+// The ribbon callbacks by name, as the host calls them.
+#include "ribbon/ribbon_callbacks.h"
+
+#include <gtest/gtest.h>
+
+#include "addin/main_module.h"
+#include "apps/qvx-sim/world.h"
+#include "ribbon/ribbon_invalidation.h"
+
+namespace qvx::testing {
+namespace {
+
+using scenario::World;
+
+class RibbonCallbacks : public ::testing::Test {
+ protected:
+  AddinState& s() { return world.addin().state(); }
+  CallbackOutcome Call(std::string_view name, std::vector<Variant> args) {
+    result = Variant("stale");
+    failure.reset();
+    return world.addin().InvokeCallback(name, args, result, failure);
+  }
+  World world;
+  Variant result;
+  std::optional<Failure> failure;
+};
+
+TEST_F(RibbonCallbacks, NamesResolveWithoutRegardToCase) {
+  for (const char* name : {"OnLoad", "onload", "ONLOAD", "oNlOaD"}) {
+    SCOPED_TRACE(name);
+    EXPECT_TRUE(world.addin().HasCallback(name));
+    ASSERT_NE(FindRibbonCallback(name), nullptr);
+    EXPECT_EQ(FindRibbonCallback(name)->name, "OnLoad");
+  }
+  for (const char* name : {"", "OnLoa", "OnLoadX", " OnLoad", "On\xC4\xB0oad", "\xFF"}) {
+    SCOPED_TRACE(name);
+    EXPECT_FALSE(world.addin().HasCallback(name));
+    EXPECT_EQ(Call(name, {Variant()}), CallbackOutcome::UnknownName);
+  }
+}
+
+TEST_F(RibbonCallbacks, OnLoadKeepsTheLatestRibbonForInvalidation) {
+  EXPECT_EQ(Call("onLoad", {Variant(world.ribbonUi().AsObject())}), CallbackOutcome::Done);
+  EXPECT_FALSE(failure.has_value());
+  EXPECT_TRUE(result.IsEmpty());
+  subInvalidateRibbon(s());
+  subInvalidateControl(s(), "cboProject");
+  EXPECT_EQ(world.ribbonUi().CallCount("Invalidate"), 1);
+  EXPECT_EQ(world.ribbonUi().CallCount("InvalidateControl"), 1);
+
+  // A second load replaces the first ribbon.
+  auto other = std::make_shared<sim::FakeObject>("IRibbonUI");
+  other->Method("Invalidate", 0, 0, [](sim::Args&) { return Variant(); });
+  EXPECT_EQ(Call("OnLoad", {Variant(other->AsObject())}), CallbackOutcome::Done);
+  subInvalidateRibbon(s());
+  EXPECT_EQ(world.ribbonUi().CallCount("Invalidate"), 1);
+  EXPECT_EQ(other->CallCount("Invalidate"), 1);
+
+  // Tear-down lets it go.
+  subKillObjects(s());
+  EXPECT_TRUE(s().main.objRibbonUI.IsNothing());
+}
+
+TEST_F(RibbonCallbacks, AnArgumentListThatDoesNotFitIsRefusedUntouched) {
+  EXPECT_EQ(Call("OnLoad", {}), CallbackOutcome::WrongArgumentCount);
+  EXPECT_EQ(Call("OnLoad", {Variant(world.ribbonUi().AsObject()), Variant(1)}),
+            CallbackOutcome::WrongArgumentCount);
+  EXPECT_TRUE(s().main.objRibbonUI.IsNothing());
+}
+
+// OnLoad has no trap of its own: its failure goes back to the host, and
+// nothing is reported or kept.
+TEST_F(RibbonCallbacks, AFailureTheCallbackDoesNotTrapGoesBackToTheHost) {
+  EXPECT_EQ(Call("OnLoad", {Variant("not a ribbon")}), CallbackOutcome::Failed);
+  ASSERT_TRUE(failure.has_value());
+  EXPECT_EQ(failure->number(), err::kObjectRequired);
+  EXPECT_TRUE(result.IsEmpty());
+  EXPECT_TRUE(s().main.objRibbonUI.IsNothing());
+  EXPECT_TRUE(world.ui().Forms().empty());
+  EXPECT_FALSE(s().err.pending());
+}
+
+}  // namespace
+}  // namespace qvx::testing
