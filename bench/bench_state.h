@@ -3,8 +3,8 @@
 #pragma once
 
 #include "addin/state.h"
-#include "core/dates.h"
 #include "platform/form_model.h"
+#include "sim/inert_platform.h"
 
 namespace qvx::bench {
 
@@ -15,31 +15,12 @@ class CountingUi final : public platform::UserInterface {
   int forms = 0;
 };
 
-class QuietSystem final : public platform::SystemServices {
- public:
-  std::string SpecialFolder(int, int) override { return "/tmp"; }
-  std::string AddinFolder() override { return "/tmp"; }
-  bool FileExists(std::string_view) override { return false; }
-  bool FolderExists(std::string_view) override { return false; }
-  bool CreateFolder(std::string_view) override { return false; }
-  bool AppendToFile(std::string_view, std::string_view) override { return false; }
-  long ShellExecute(std::string_view) override { return 0; }
-  bool Launch(std::string_view, std::string_view, int) override { return false; }
-  bool RunCommandLine(std::string_view, int) override { return false; }
-  std::string Environment(std::string_view) override { return {}; }
-  DateValue Now() override { return DateSerial(2026, 1, 1); }
-  void DoEvents() override {}
-};
-
-class NoObjects final : public platform::ObjectFactory {
- public:
-  Object CreateObject(std::string_view) override { throw Failure::Runtime(429); }
-  Object GetObject(std::string_view) override { throw Failure::Runtime(429); }
-};
+using sim::InertSystem;
+using sim::NoObjects;
 
 struct BenchState {
   CountingUi ui;
-  QuietSystem system;
+  InertSystem system;
   NoObjects objects;
   AddinState s{platform::Platform{
       .registry = nullptr, .objects = &objects, .ui = &ui, .system = &system, .windows = nullptr}};

@@ -64,13 +64,11 @@ HRESULT QVXClientDLL::QueryInterface(REFIID riid, void** ppv) noexcept {
 }
 
 ULONG QVXClientDLL::AddRef() noexcept {
-  return InterlockedIncrement(&refs_);
+  return refs_.Add();
 }
 
 ULONG QVXClientDLL::Release() noexcept {
-  const ULONG n = InterlockedDecrement(&refs_);
-  if (n == 0) delete this;
-  return n;
+  return refs_.Release([this] { delete this; });
 }
 
 HRESULT QVXClientDLL::GetTypeInfoCount(UINT* count) noexcept {

@@ -17,6 +17,7 @@
 #include "com/callback_table.h"
 #include "com/office_interfaces.h"
 #include "platform/win32/com_module.h"
+#include "platform/win32/ref_count.h"
 
 namespace qvx {
 class QVXClientAddin;
@@ -63,7 +64,7 @@ class QVXClientDLL final : public IDTExtensibility2,
  private:
   ~QVXClientDLL();
 
-  LONG refs_ = 1;
+  win32::RefCount refs_;
   std::unique_ptr<win32::Win32Platform> platform_;
   std::unique_ptr<QVXClientAddin> addin_;
   CallbackTable callbacks_;

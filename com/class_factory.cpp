@@ -18,13 +18,11 @@ HRESULT ClassFactory::QueryInterface(REFIID riid, void** ppv) noexcept {
 }
 
 ULONG ClassFactory::AddRef() noexcept {
-  return InterlockedIncrement(&refs_);
+  return refs_.Add();
 }
 
 ULONG ClassFactory::Release() noexcept {
-  const ULONG n = InterlockedDecrement(&refs_);
-  if (n == 0) delete this;
-  return n;
+  return refs_.Release([this] { delete this; });
 }
 
 HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID riid, void** ppv) noexcept {

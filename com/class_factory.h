@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/win32/com_module.h"
+#include "platform/win32/ref_count.h"
 #include "platform/win32/win32_api.h"
 
 namespace qvx::com {
@@ -17,7 +18,7 @@ class ClassFactory final : public IClassFactory, private win32::ModuleCounted {
 
  private:
   ~ClassFactory() = default;
-  LONG refs_ = 1;
+  win32::RefCount refs_;
 };
 
 // DllGetClassObject's work: the factory for our CLSID only.

@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace qvx::platform {
@@ -17,6 +18,15 @@ struct FormControl {
   bool visible = true;
   bool enabled = true;
 };
+
+// A control as a form lays it out first: visible, enabled, no text.
+inline FormControl MakeControl(std::string name, std::string kind, std::string caption) {
+  FormControl c;
+  c.name = std::move(name);
+  c.kind = std::move(kind);
+  c.caption = std::move(caption);
+  return c;
+}
 
 class FormModel {
  public:

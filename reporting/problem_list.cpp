@@ -4,24 +4,14 @@
 #include "platform/user_interface.h"
 
 namespace qvx {
-namespace {
-
-platform::FormControl MakeControl(std::string name, std::string kind, std::string caption) {
-  platform::FormControl c;
-  c.name = std::move(name);
-  c.kind = std::move(kind);
-  c.caption = std::move(caption);
-  return c;
-}
-
-}  // namespace
 
 frmMessage::frmMessage() {
   controls_ = {
-      MakeControl("Label1", "label",
-                  "Please review the following problems with reporting the selected items:"),
-      MakeControl("txtMessage", "textbox", ""),
-      MakeControl("cmdOK", "button", "OK"),
+      platform::MakeControl(
+          "Label1", "label",
+          "Please review the following problems with reporting the selected items:"),
+      platform::MakeControl("txtMessage", "textbox", ""),
+      platform::MakeControl("cmdOK", "button", "OK"),
   };
 }
 

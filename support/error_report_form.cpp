@@ -13,37 +13,31 @@ namespace {
 // The three handlers that mail or toggle share one label, as they always have.
 constexpr std::string_view kHandlerLabel = "fErrorReport.lblSendDirectly.Click";
 
-platform::FormControl MakeControl(std::string name, std::string kind, std::string caption) {
-  platform::FormControl c;
-  c.name = std::move(name);
-  c.kind = std::move(kind);
-  c.caption = std::move(caption);
-  return c;
-}
-
 }  // namespace
 
 frmErrorReport::frmErrorReport(AddinState& s) : s_(s) {
   controls_ = {
-      MakeControl("lblBuild", "label", ""),
-      MakeControl("txtReport", "textbox", ""),
-      MakeControl("cmdViewReport", "button", "View Report"),
-      MakeControl("cmdCancel", "button", "Cancel"),
-      MakeControl("lblApplication", "label", ""),
-      MakeControl("lblCommentFirst", "label",
-                  "An unknown exception has occured. A report on the exception has been "
-                  "generated. It is highly recommended that you send this report to us to "
-                  "help diagnose the exception."),
-      MakeControl("lblCommentSecond", "label",
-                  "The information contained in this report is taken from this application for "
-                  "quality control only, not for marketing purposes or for monitoring "
-                  "individual users or machines. You can opt to view the detail of the report "
-                  "by clicking 'View Report' button."),
-      MakeControl("lblClickHere", "label", "click here."),
-      MakeControl("cmdOpenEmail", "button", "Open Email"),
-      MakeControl("lblLearn", "label", "To learn more about the error reporting,"),
-      MakeControl("frameReport", "frame", "Exception Report"),
-      MakeControl("lblSendDirectly", "button", "Send directly"),
+      platform::MakeControl("lblBuild", "label", ""),
+      platform::MakeControl("txtReport", "textbox", ""),
+      platform::MakeControl("cmdViewReport", "button", "View Report"),
+      platform::MakeControl("cmdCancel", "button", "Cancel"),
+      platform::MakeControl("lblApplication", "label", ""),
+      platform::MakeControl(
+          "lblCommentFirst", "label",
+          "An unknown exception has occured. A report on the exception has been "
+          "generated. It is highly recommended that you send this report to us to "
+          "help diagnose the exception."),
+      platform::MakeControl(
+          "lblCommentSecond", "label",
+          "The information contained in this report is taken from this application for "
+          "quality control only, not for marketing purposes or for monitoring "
+          "individual users or machines. You can opt to view the detail of the report "
+          "by clicking 'View Report' button."),
+      platform::MakeControl("lblClickHere", "label", "click here."),
+      platform::MakeControl("cmdOpenEmail", "button", "Open Email"),
+      platform::MakeControl("lblLearn", "label", "To learn more about the error reporting,"),
+      platform::MakeControl("frameReport", "frame", "Exception Report"),
+      platform::MakeControl("lblSendDirectly", "button", "Send directly"),
   };
   height_ = kCollapsedHeight;
 }

@@ -12,6 +12,7 @@
 #include "platform/win32/com_module.h"
 #include "platform/win32/dispatch_object.h"
 #include "platform/win32/host_events.h"
+#include "platform/win32/ref_count.h"
 #include "platform/win32/variant_convert.h"
 #include "platform/win32/wide_text.h"
 
@@ -43,11 +44,9 @@ class NameTypeInfo final : public ITypeInfo, private ModuleCounted {
     AddRef();
     return S_OK;
   }
-  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return InterlockedIncrement(&refs_); }
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return refs_.Add(); }
   ULONG STDMETHODCALLTYPE Release() noexcept override {
-    const ULONG n = InterlockedDecrement(&refs_);
-    if (n == 0) delete this;
-    return n;
+    return refs_.Release([this] { delete this; });
   }
   HRESULT STDMETHODCALLTYPE GetDocumentation(MEMBERID member, BSTR* name, BSTR* doc, DWORD* help,
                                              BSTR* helpFile) noexcept override {
@@ -105,7 +104,7 @@ class NameTypeInfo final : public ITypeInfo, private ModuleCounted {
 
  private:
   ~NameTypeInfo() = default;
-  LONG refs_ = 1;
+  RefCount refs_;
   std::wstring name_;
 };
 
@@ -124,11 +123,9 @@ class VariantEnum final : public IEnumVARIANT, private ModuleCounted {
     AddRef();
     return S_OK;
   }
-  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return InterlockedIncrement(&refs_); }
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return refs_.Add(); }
   ULONG STDMETHODCALLTYPE Release() noexcept override {
-    const ULONG n = InterlockedDecrement(&refs_);
-    if (n == 0) delete this;
-    return n;
+    return refs_.Release([this] { delete this; });
   }
   HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* out, ULONG* fetched) noexcept override {
     if (!out) return E_POINTER;
@@ -168,7 +165,7 @@ class VariantEnum final : public IEnumVARIANT, private ModuleCounted {
 
  private:
   ~VariantEnum() = default;
-  LONG refs_ = 1;
+  RefCount refs_;
   std::vector<Variant> items_;
   size_t next_ = 0;
 };
@@ -227,11 +224,9 @@ class FaceConnectionPoint final : public IConnectionPoint, private ModuleCounted
     AddRef();
     return S_OK;
   }
-  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return InterlockedIncrement(&refs_); }
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return refs_.Add(); }
   ULONG STDMETHODCALLTYPE Release() noexcept override {
-    const ULONG n = InterlockedDecrement(&refs_);
-    if (n == 0) delete this;
-    return n;
+    return refs_.Release([this] { delete this; });
   }
   HRESULT STDMETHODCALLTYPE GetConnectionInterface(IID* iid) noexcept override {
     if (!iid) return E_POINTER;
@@ -290,7 +285,7 @@ class FaceConnectionPoint final : public IConnectionPoint, private ModuleCounted
 
  private:
   ~FaceConnectionPoint() = default;
-  LONG refs_ = 1;
+  RefCount refs_;
   ComPtr<IConnectionPointContainer> container_;
   std::shared_ptr<HostObject> host_;
   GUID diid_;
@@ -322,11 +317,9 @@ class DispatchFace final : public IDispatch,
     AddRef();
     return S_OK;
   }
-  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return InterlockedIncrement(&refs_); }
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return refs_.Add(); }
   ULONG STDMETHODCALLTYPE Release() noexcept override {
-    const ULONG n = InterlockedDecrement(&refs_);
-    if (n == 0) delete this;
-    return n;
+    return refs_.Release([this] { delete this; });
   }
 
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {
@@ -415,7 +408,7 @@ class DispatchFace final : public IDispatch,
     return host_->Invoke(name, InvokeKind::Call, args);
   }
 
-  LONG refs_ = 1;
+  RefCount refs_;
   std::shared_ptr<HostObject> host_;
   std::vector<std::string> names_;
 };

@@ -8,6 +8,7 @@
 #include "core/text.h"
 #include "platform/win32/com_module.h"
 #include "platform/win32/host_events.h"
+#include "platform/win32/ref_count.h"
 #include "platform/win32/variant_convert.h"
 #include "platform/win32/win_handles.h"
 
@@ -36,11 +37,9 @@ class EventSink final : public IDispatch, private ModuleCounted {
     }
     return E_NOINTERFACE;
   }
-  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return InterlockedIncrement(&refs_); }
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return refs_.Add(); }
   ULONG STDMETHODCALLTYPE Release() noexcept override {
-    const ULONG n = InterlockedDecrement(&refs_);
-    if (n == 0) delete this;
-    return n;
+    return refs_.Release([this] { delete this; });
   }
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {
     if (!count) return E_POINTER;
@@ -90,7 +89,7 @@ class EventSink final : public IDispatch, private ModuleCounted {
  private:
   ~EventSink() = default;
 
-  LONG refs_ = 1;
+  RefCount refs_;
   GUID diid_;
   DISPID dispid_;
   std::shared_ptr<EventHandler> handler_;

@@ -14,6 +14,7 @@
 #include "addin/state.h"
 #include "core/dates.h"
 #include "platform/posix/file_registry.h"
+#include "sim/inert_platform.h"
 
 namespace qvx::testing {
 
@@ -38,28 +39,8 @@ class RecordingUi final : public platform::UserInterface {
   std::vector<std::string> reports;  // txtReport of each form shown
 };
 
-class FixedSystem final : public platform::SystemServices {
- public:
-  DateValue now = ComposeDate(DateParts{2026, 3, 14, 15, 9, 26});
-  std::string SpecialFolder(int, int) override { return "/tmp"; }
-  std::string AddinFolder() override { return "/opt/qvx"; }
-  bool FileExists(std::string_view) override { return false; }
-  bool FolderExists(std::string_view) override { return false; }
-  bool CreateFolder(std::string_view) override { return false; }
-  bool AppendToFile(std::string_view, std::string_view) override { return false; }
-  long ShellExecute(std::string_view) override { return 0; }
-  bool Launch(std::string_view, std::string_view, int) override { return false; }
-  bool RunCommandLine(std::string_view, int) override { return false; }
-  std::string Environment(std::string_view) override { return {}; }
-  DateValue Now() override { return now; }
-  void DoEvents() override {}
-};
-
-class NoObjects final : public platform::ObjectFactory {
- public:
-  Object CreateObject(std::string_view) override { throw Failure::Runtime(429); }
-  Object GetObject(std::string_view) override { throw Failure::Runtime(429); }
-};
+using FixedSystem = sim::InertSystem;
+using sim::NoObjects;
 
 // Answers every member with 438, like a host that has none.
 class InertHost final : public HostObject {
