@@ -1,8 +1,10 @@
 // tag project / activity / field / direct / shown-activity / colours,
 // queue select / delete, category add, expect item-property / no-item-property /
 // categories / item-date / saves / category / no-category / tagging /
-// shown-activity: writing tags on items, the re-entry between two items, and
+// shown-activity, show item: writing tags on items, the re-entry between two items, and
 // the project colours.
+#include <ostream>
+
 #include "addin/state.h"
 #include "apps/qvx-sim/verbs.h"
 #include "apps/qvx-sim/world.h"
@@ -187,10 +189,36 @@ void AddExpectVerbs(VerbTable& table) {
 
 }  // namespace
 
+void AddShowVerbs(VerbTable& table) {
+  table.Add("show item", "show item SUBJECT",
+            "prints the item's dates, categories and user properties", [](World& w, const Args& a) {
+              a.Expect(1);
+              if (w.out == nullptr) throw UsageError("no output");
+              std::ostream& out = *w.out;
+              const auto item = Item(w, a.At(0));
+              out << "  item " << Shown(item->Subject()) << "\n";
+              for (const char* field : {"Start", "End", "StartDate", "DueDate"}) {
+                try {
+                  const Variant date = item->Field(field);
+                  if (date.IsEmpty()) continue;  // the other class's dates
+                  out << "    " << field << " " << DateToText(date.ToDate()) << "\n";
+                } catch (const Failure&) {
+                  // Not a field of this class.
+                }
+              }
+              out << "    Categories " << Shown(item->Field("Categories").ToText()) << "\n";
+              for (const auto& property : item->UserProperties().list()) {
+                out << "    " << property->name() << " " << Shown(property->value().ToText())
+                    << "\n";
+              }
+            });
+}
+
 void RegisterTaggingVerbs(VerbTable& table) {
   AddTagVerbs(table);
   AddHostVerbs(table);
   AddExpectVerbs(table);
+  AddShowVerbs(table);
 }
 
 }  // namespace qvx::scenario
