@@ -2,10 +2,15 @@
 // and the helpers the verbs share.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "apps/qvx-sim/runner.h"
+
+namespace qvx::sim {
+class SimItem;
+}
 
 namespace qvx::scenario {
 
@@ -21,6 +26,10 @@ void RegisterReportVerbs(VerbTable& table);
 void RegisterCatalogueVerbs(VerbTable& table);
 void RegisterTaggingVerbs(VerbTable& table);
 void RegisterRibbonVerbs(VerbTable& table);
+
+// The first item with this subject in the active explorer's folder, else in
+// any folder; a usage error when there is none.
+std::shared_ptr<sim::SimItem> ItemNamed(World& w, const std::string& subject);
 
 // Fails the expectation unless the two texts are equal.
 void ExpectEqual(const std::string& expected, const std::string& seen);

@@ -43,20 +43,6 @@ void CollectItems(const std::shared_ptr<sim::SimFolder>& folder,
   for (const auto& child : folder->folders().list()) CollectItems(child, out);
 }
 
-// The first item with this subject in the active explorer's folder, else in
-// any folder.
-std::shared_ptr<sim::SimItem> ItemNamed(World& w, const std::string& subject) {
-  std::vector<std::shared_ptr<sim::SimItem>> items;
-  if (auto explorer = w.host().ActiveExplorer(); explorer && explorer->folder()) {
-    items = explorer->folder()->items().list();
-  }
-  CollectItems(w.host().Root(), items);
-  for (const auto& item : items) {
-    if (item->Subject() == subject) return item;
-  }
-  throw UsageError("no item with the subject \"" + subject + "\"");
-}
-
 DateValue DateWord(const Args& a, size_t i) {
   std::string text = a.At(i);
   if (text == "none") return kNoneDate;
@@ -200,6 +186,18 @@ void AddWindowVerbs(VerbTable& table) {
 }
 
 }  // namespace
+
+std::shared_ptr<sim::SimItem> ItemNamed(World& w, const std::string& subject) {
+  std::vector<std::shared_ptr<sim::SimItem>> items;
+  if (auto explorer = w.host().ActiveExplorer(); explorer && explorer->folder()) {
+    items = explorer->folder()->items().list();
+  }
+  CollectItems(w.host().Root(), items);
+  for (const auto& item : items) {
+    if (item->Subject() == subject) return item;
+  }
+  throw UsageError("no item with the subject \"" + subject + "\"");
+}
 
 void RegisterSelectionVerbs(VerbTable& table) {
   AddItemVerbs(table);

@@ -23,19 +23,8 @@ namespace qvx::scenario {
 namespace {
 
 // "@selected" is the first item selected in the active explorer (an
-// occurrence, say); anything else the first item of that subject anywhere.
+// occurrence, say); anything else an item of that subject.
 constexpr char kSelected[] = "@selected";
-
-std::shared_ptr<sim::SimItem> FindIn(const std::shared_ptr<sim::SimFolder>& folder,
-                                     const std::string& subject) {
-  for (const auto& item : folder->items().list()) {
-    if (item->Subject() == subject) return item;
-  }
-  for (const auto& child : folder->folders().list()) {
-    if (auto found = FindIn(child, subject)) return found;
-  }
-  return nullptr;
-}
 
 std::shared_ptr<sim::SimItem> Item(World& w, const std::string& subject) {
   if (subject == kSelected) {
@@ -43,9 +32,7 @@ std::shared_ptr<sim::SimItem> Item(World& w, const std::string& subject) {
     if (!explorer || explorer->selected().empty()) throw UsageError("nothing is selected");
     return explorer->selected().front();
   }
-  auto item = FindIn(w.host().Root(), subject);
-  if (!item) throw UsageError("no item with the subject \"" + subject + "\"");
-  return item;
+  return ItemNamed(w, subject);
 }
 
 AddinState& State(World& w) {
