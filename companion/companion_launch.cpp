@@ -13,15 +13,6 @@
 #include "support/host_items.h"
 
 namespace qvx {
-namespace {
-
-const cMySettings& Settings(AddinState& s) {
-  if (!s.main.objMySettings) throw Failure::Runtime(err::kObjectNotSet);
-  return *s.main.objMySettings;
-}
-
-}  // namespace
-
 void subLoadSection(AddinState& s, int32_t lngSection) noexcept {
   Trapped(s, "Main.subLoadSection", [&](Line& line) {
     line = 10;
@@ -36,7 +27,7 @@ void subLoadSection(AddinState& s, int32_t lngSection) noexcept {
 void subLoadOLAPStatistics(AddinState& s) noexcept {
   Trapped(s, "Main.subLoadOLAPStatistics", [&](Line& line) {
     line = 10;
-    const cMySettings& settings = Settings(s);
+    const cMySettings& settings = s.main.Settings();
     std::string connection = settings.DBConnectionString;
     line = 20;
     if (connection.empty()) {

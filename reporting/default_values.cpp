@@ -6,11 +6,6 @@
 namespace qvx {
 namespace {
 
-const cMySettings& Settings(AddinState& s) {
-  if (!s.main.objMySettings) throw Failure::Runtime(err::kObjectNotSet);
-  return *s.main.objMySettings;
-}
-
 struct ListDefault {
   int16_t active;
   int16_t enabled;
@@ -23,7 +18,7 @@ template <class Pick>
 std::string CustomListDefault(AddinState& s, std::string_view label, Pick pick) {
   return TrappedResult<std::string>(s, label, [&](Line& line, std::string& out) {
     line = 10;
-    const cMySettings& settings = Settings(s);
+    const cMySettings& settings = s.main.Settings();
     const auto [active, enabled, value] = pick(settings);
     line = 20;
     if (active != 0 && enabled != 0) out = value;
@@ -35,7 +30,7 @@ std::string CustomListDefault(AddinState& s, std::string_view label, Pick pick) 
 std::string GetDefaultProjectValue(AddinState& s) {
   return TrappedResult<std::string>(s, "GetDefaultProjectValue", [&](Line& line, std::string& out) {
     line = 10;
-    const cMySettings& settings = Settings(s);
+    const cMySettings& settings = s.main.Settings();
     line = 20;
     if (settings.EnableDefaultValueForProjectTask != 0) out = settings.DefaultValueForProject;
   });
@@ -45,7 +40,7 @@ std::string GetDefaultActivityValue(AddinState& s) {
   return TrappedResult<std::string>(s, "GetDefaultActivityValue",
                                     [&](Line& line, std::string& out) {
                                       line = 10;
-                                      const cMySettings& settings = Settings(s);
+                                      const cMySettings& settings = s.main.Settings();
                                       line = 20;
                                       if (settings.EnableDefaultValueForProjectTask != 0)
                                         out = settings.DefaultValueForTask;

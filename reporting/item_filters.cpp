@@ -15,11 +15,6 @@ constexpr int32_t olAppointmentItem = 1;
 constexpr int32_t olFolderCalendar = 9;
 constexpr int32_t olFolderTasks = 13;
 
-const cMySettings& Settings(AddinState& s) {
-  if (!s.main.objMySettings) throw Failure::Runtime(err::kObjectNotSet);
-  return *s.main.objMySettings;
-}
-
 }  // namespace
 
 bool IsSupportMessageClass(AddinState& s, const Object& objItem) noexcept {
@@ -39,7 +34,7 @@ bool IsSupportMessageClass(AddinState& s, const Object& objItem) noexcept {
 bool IsDefaultFolder(AddinState& s, const Object& objFolder) noexcept {
   return TrappedResult<bool>(s, "Main.IsDefaultFolder", [&](Line& line, bool& result) {
     line = 10;
-    const cMySettings& settings = Settings(s);
+    const cMySettings& settings = s.main.Settings();
     bool restricted = false;
     Object defaultFolder;
     if (objFolder.Get("DefaultItemType").ToLong() == olAppointmentItem) {
@@ -70,7 +65,7 @@ bool IsDefaultFolder(AddinState& s, const Object& objFolder) noexcept {
 bool AreAllCustomFieldsActive(AddinState& s) noexcept {
   return TrappedResult<bool>(s, "Main.AreAllCustomFieldsActive", [&](Line& line, bool& result) {
     line = 10;
-    const cMySettings& c = Settings(s);
+    const cMySettings& c = s.main.Settings();
     line = 20;
     result = c.CustomList1Active != 0 || c.CustomList2Active != 0 || c.CustomList3Active != 0 ||
              c.CustomList4Active != 0 || c.CustomField5Active != 0 || c.CustomField6Active != 0 ||

@@ -25,11 +25,6 @@ const std::string kItemSeparator = "\r\n\r\n\r\n";
 const std::string kPrivateProblem = "- Problem: Private Item not allowed for reporting!";
 const std::string kRecurringProblem = "- Problem: Recurrence Item not allowed for reporting!";
 
-const cMySettings& Settings(AddinState& s) {
-  if (!s.main.objMySettings) throw Failure::Runtime(err::kObjectNotSet);
-  return *s.main.objMySettings;
-}
-
 // What the validation has gathered so far.
 struct Gathered {
   std::string problems;
@@ -88,7 +83,7 @@ void ReportItemsToDB(AddinState& s) noexcept {
     if (objFirst.IsNothing()) return;
     line = 20;
     int answer = msgbox::kYes;
-    if (Settings(s).AskForConfirmationBeforeReporting != 0) {
+    if (s.main.Settings().AskForConfirmationBeforeReporting != 0) {
       line = 30;
       answer =
           s.ui().MessageBox("Are you sure you want to report the selected item(s) to the database?",
@@ -105,7 +100,7 @@ void ReportItemsToDB(AddinState& s) noexcept {
 void ReportToDB(AddinState& s, const std::string& strStoreID, const Object& obj) noexcept {
   Trapped(s, "Main.ReportToDB", [&](Line& line) {
     line = 10;
-    const cMySettings& settings = Settings(s);
+    const cMySettings& settings = s.main.Settings();
     Gathered gathered;
     line = 20;
     const bool isSelection = obj.TypeName() == "Selection";

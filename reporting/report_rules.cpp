@@ -14,11 +14,6 @@ namespace {
 
 constexpr int32_t olPrivate = 2;
 
-const cMySettings& Settings(AddinState& s) {
-  if (!s.main.objMySettings) throw Failure::Runtime(err::kObjectNotSet);
-  return *s.main.objMySettings;
-}
-
 // One of the twelve mandatory tests.
 struct MandatoryTest {
   std::string_view property;             // the user property read
@@ -78,19 +73,19 @@ bool Wanted(const cMySettings& c, size_t i, std::string& label) {
 bool IsPrivateAllowed(AddinState& s, const Object& objItem) {
   // Both sides are always evaluated: the item is read even when private items pass.
   const bool isPrivate = objItem.Get("Sensitivity").ToLong() == olPrivate;
-  return !(isPrivate && Settings(s).AllowPrivate == 0);
+  return !(isPrivate && s.main.Settings().AllowPrivate == 0);
 }
 
 bool IsRecurringAllowed(AddinState& s, const Object& objItem) {
   const bool recurring = objItem.Get("IsRecurring").ToBoolean();
-  return !(recurring && Settings(s).AllowRecurring == 0);
+  return !(recurring && s.main.Settings().AllowRecurring == 0);
 }
 
 std::string AllMandatoryFieldsFilled(AddinState& s, const Object& objItem) noexcept {
   return TrappedResult<std::string>(
       s, "Main.AllMandatoryFieldsFilled", [&](Line& line, std::string& problems) {
         line = 10;
-        const cMySettings& settings = Settings(s);
+        const cMySettings& settings = s.main.Settings();
         for (size_t i = 0; i < kTests.size(); ++i) {
           const MandatoryTest& test = kTests[i];
           line = 20;

@@ -1,6 +1,5 @@
 #include "reporting/tag_dates.h"
 
-#include <memory>
 #include <string>
 
 #include "addin/state.h"
@@ -33,13 +32,10 @@ void ApplyProjectStartFinishDateToTaggedItem(AddinState& s, const Object& objIte
         (settings.UpdateAppointmentEndDateWith != 0 && settings.UpdateTaskDueDateWith != 0);
     if (strProject.empty() || !wanted) return;
     line = 20;
-    const auto& projects = settings.MyProjectsTasks->dicList;
-    if (!projects.Exists(strProject)) return;
+    const auto* entry = settings.MyProjectsTasks->dicList.Find(strProject);
     line = 30;
-    std::shared_ptr<cTasksPerProject> entry;
-    if (const auto* found = projects.Find(strProject)) entry = *found;
-    if (!entry || !entry->Project) return;
-    const cProjectClient& project = *entry->Project;
+    if (entry == nullptr || !*entry || !(*entry)->Project) return;
+    const cProjectClient& project = *(*entry)->Project;
     line = 40;
     if (IsUsableDate(project.StartDate) && settings.UpdateStartDateWithProjectStartDate != 0) {
       AssignDateToItem(s, objItem, project.StartDate, true);

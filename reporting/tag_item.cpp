@@ -16,20 +16,21 @@ namespace {
 // The item's property of that name, creating a text property (a folder field
 // too) when there is none; Nothing when the item won't give one.
 Object FindOrAddProperty(AddinState& s, const Object& objItem, std::string_view strProperty) {
+  Object properties;
   Object property;
-  IgnoreFailure(s.err, [&] {
-    const Variant found =
-        objItem.Get("UserProperties").ToObject().Call("Item", {Variant(strProperty)});
-    if (found.IsObject()) property = found.ToObject();
-  });
-  if (property.IsNothing()) {
+  IgnoreFailure(s.err, [&] { properties = objItem.Get("UserProperties").ToObject(); });
+  if (properties) {
     IgnoreFailure(s.err, [&] {
-      const Variant added =
-          objItem.Get("UserProperties")
-              .ToObject()
-              .Call("Add", {Variant(strProperty), Variant(schema::olText), Variant(true)});
-      if (added.IsObject()) property = added.ToObject();
+      const Variant found = properties.Call("Item", {Variant(strProperty)});
+      if (found.IsObject()) property = found.ToObject();
     });
+    if (property.IsNothing()) {
+      IgnoreFailure(s.err, [&] {
+        const Variant added =
+            properties.Call("Add", {Variant(strProperty), Variant(schema::olText), Variant(true)});
+        if (added.IsObject()) property = added.ToObject();
+      });
+    }
   }
   s.err.Clear();
   return property;
@@ -38,12 +39,8 @@ Object FindOrAddProperty(AddinState& s, const Object& objItem, std::string_view 
 // Either category setting covers project and activity alike; only the custom
 // fields have a setting of their own.
 bool WantsCategory(const cMySettings& settings, std::string_view strProperty) {
-  const bool custom = IsCustomFieldProperty(strProperty);
-  bool tag = false;
-  if (settings.TagProjectToCategories != 0 && !custom) tag = true;
-  if (settings.TagTaskToCategories != 0 && !custom) tag = true;
-  if (settings.TagCustomFieldsToCategories != 0 && custom) tag = true;
-  return tag;
+  if (IsCustomFieldProperty(strProperty)) return settings.TagCustomFieldsToCategories != 0;
+  return settings.TagProjectToCategories != 0 || settings.TagTaskToCategories != 0;
 }
 
 }  // namespace
