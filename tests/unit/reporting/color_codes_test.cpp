@@ -17,83 +17,45 @@ class ColorCodesTest : public TaggingTest {
     auto category = host().FindCategory(name);
     return category ? category->color() : -1;
   }
+  size_t CategoryCount() { return host().app().session().categories().list().size(); }
 };
 
-TEST_F(ColorCodesTest, EachProjectGetsItsColourAddedOrChanged) {
-  Set("AddProjectColorCodes", "-1");
-  host().AddCategory("alpha", 1);
-  host().AddCategory("Holiday", 2);
-  Connect();
-  Load();
-  EXPECT_EQ(ColorOf("Alpha"), 5);
-  EXPECT_EQ(host().FindCategory("Alpha")->name(), "alpha");  // recoloured, not renamed
-  EXPECT_EQ(ColorOf("Beta"), 8);
-  EXPECT_EQ(ColorOf("Gamma"), 3);
-  EXPECT_EQ(ColorOf("Holiday"), 2);
-  EXPECT_TRUE(Reports().empty());
-}
-
-TEST_F(ColorCodesTest, NothingWithoutTheSetting) {
-  Connect();
-  Load();
-  EXPECT_EQ(ColorOf("Alpha"), -1);
-  EXPECT_TRUE(host().app().session().categories().list().empty());
-}
-
-TEST_F(ColorCodesTest, NothingBeforeVersionTwelve) {
-  Set("AddProjectColorCodes", "1");
-  host().SetVersion("11.0.0.8312");
-  Connect();
-  Load();
-  EXPECT_EQ(ColorOf("Alpha"), -1);
-  EXPECT_TRUE(Reports().empty());
-}
-
-TEST_F(ColorCodesTest, VersionTwelveIsEnough) {
-  Set("AddProjectColorCodes", "1");
-  host().SetVersion("12.0.4518.1014");
-  Connect();
-  Load();
-  EXPECT_EQ(ColorOf("Beta"), 8);
-}
-
-TEST_F(ColorCodesTest, TheSessionIsFetchedWhenThereIsNone) {
-  Set("AddProjectColorCodes", "-1");
-  Connect();
-  s().main.objNameSpace.Release();
-  Load();
-  EXPECT_FALSE(s().main.objNameSpace.IsNothing());
-  EXPECT_EQ(ColorOf("Alpha"), 5);
-}
-
-TEST_F(ColorCodesTest, ABadEntryIsPassedOver) {
+TEST_F(ColorCodesTest, RecolouredNotRenamedAndABadEntryPassedOver) {
   Set("AddProjectColorCodes", "-1");
   // A project without a name: the host refuses a category without one.
-  Set("MyProjectsTasks", ",4,,:\r\nBeta,8,,:");
+  Set("MyProjectsTasks", ",4,,:\r\nAlpha,5,,:");
+  host().AddCategory("alpha", 1);
   Connect();
   Load();
-  EXPECT_EQ(ColorOf("Beta"), 8);
-  EXPECT_EQ(host().app().session().categories().list().size(), 1u);
+  EXPECT_EQ(ColorOf("Alpha"), 5);
+  EXPECT_EQ(host().FindCategory("Alpha")->name(), "alpha");
+  EXPECT_EQ(CategoryCount(), 1u);
   EXPECT_TRUE(Reports().empty());
   EXPECT_FALSE(s().err.pending());
 }
 
-TEST_F(ColorCodesTest, MessagesAreLetThroughBeforeEachProject) {
-  Set("AddProjectColorCodes", "-1");
+TEST_F(ColorCodesTest, FromVersionTwelveEachProjectAfterLettingMessagesThrough) {
+  Set("AddProjectColorCodes", "1");
+  host().SetVersion("12.0.4518.1014");
   Connect();
+  s().main.objNameSpace.Release();  // fetched when there is none
   const size_t pumps = host().Pending().pumps();
   Load();
   EXPECT_EQ(host().Pending().pumps() - pumps, 3u);
+  EXPECT_FALSE(s().main.objNameSpace.IsNothing());
+  EXPECT_EQ(ColorOf("Beta"), 8);
 }
 
-TEST_F(ColorCodesTest, AnEmptyCatalogueDoesNothing) {
+TEST_F(ColorCodesTest, NothingWithoutTheSettingOrFromAnEmptyCatalogue) {
+  Connect();
+  Load();
   Set("AddProjectColorCodes", "-1");
   Set("MyProjectsTasks", "");
-  Connect();
+  settings().ReadSettings(s());
   const size_t pumps = host().Pending().pumps();
   Load();
   EXPECT_EQ(host().Pending().pumps(), pumps);
-  EXPECT_TRUE(host().app().session().categories().list().empty());
+  EXPECT_EQ(CategoryCount(), 0u);
 }
 
 TEST_F(ColorCodesTest, ACatalogueReplacedWhileLoadingIsSafe) {

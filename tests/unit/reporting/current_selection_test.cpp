@@ -9,14 +9,6 @@ namespace {
 
 using CurrentSelection = testing::ReportTest;
 
-TEST_F(CurrentSelection, NoWindowGivesNothing) {
-  world.StartsWithoutExplorer();
-  t.s.report.blnLastItemFromInspector = true;
-  EXPECT_TRUE(Main::GetCurrentSelectedItem(t.s, true).IsNothing());
-  EXPECT_FALSE(t.s.report.blnLastItemFromInspector);
-  EXPECT_TRUE(Main::GetCurrentSelectedItemExplorer(t.s).IsNothing());
-}
-
 TEST_F(CurrentSelection, AnExplorerGivesItsItemOrItsSelection) {
   auto a = Appointment("A");
   auto b = Appointment("B");
@@ -53,22 +45,21 @@ TEST_F(CurrentSelection, AnInspectorGivesItsItemAndIsNoted) {
   EXPECT_FALSE(t.s.report.blnLastItemFromInspector);
 }
 
-TEST_F(CurrentSelection, ARefusedSelectionIsAnEmptyOneAndNoFailure) {
+TEST_F(CurrentSelection, NoWindowOrAnUnreadableOneGivesNothingAndNoFailure) {
   Select({Appointment("A")});
+  world.FailAt("ActiveWindow", -2147467259, "The operation failed.", 1);
+  EXPECT_TRUE(Main::GetCurrentSelectedItem(t.s, true).IsNothing());
+  world.FailAt("ActiveExplorer.Selection.Item", -2147467259, "The operation failed.", 2);
+  EXPECT_TRUE(Main::GetCurrentSelectedItem(t.s, false).IsNothing());
+  EXPECT_TRUE(Main::GetCurrentSelectedItemExplorer(t.s).IsNothing());
+  // A refused selection is an empty one.
   world.FailAt("ActiveExplorer.Selection", -2147467259, "The operation failed.");
   EXPECT_TRUE(Main::GetCurrentSelectedItem(t.s, true).IsNothing());
   EXPECT_TRUE(Main::GetCurrentSelectedItemExplorer(t.s).IsNothing());
-  EXPECT_FALSE(t.s.err.pending());
-  EXPECT_TRUE(t.Reports().empty());
-}
-
-TEST_F(CurrentSelection, AnUnreadableWindowOrItemGivesNothing) {
-  auto a = Appointment("A");
-  Select({a});
-  world.FailAt("ActiveWindow", -2147467259, "The operation failed.", 1);
+  world.StartsWithoutExplorer();
+  t.s.report.blnLastItemFromInspector = true;
   EXPECT_TRUE(Main::GetCurrentSelectedItem(t.s, true).IsNothing());
-  world.FailAt("ActiveExplorer.Selection.Item", -2147467259, "The operation failed.");
-  EXPECT_TRUE(Main::GetCurrentSelectedItem(t.s, false).IsNothing());
+  EXPECT_FALSE(t.s.report.blnLastItemFromInspector);
   EXPECT_TRUE(Main::GetCurrentSelectedItemExplorer(t.s).IsNothing());
   EXPECT_FALSE(t.s.err.pending());
   EXPECT_TRUE(t.Reports().empty());

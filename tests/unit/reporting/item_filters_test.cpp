@@ -10,7 +10,7 @@ namespace {
 
 using ItemFilters = testing::ReportTest;
 
-TEST_F(ItemFilters, SupportedClassesAreFoundInTheUpperCasedMessageClass) {
+TEST_F(ItemFilters, SupportedClassesAreFoundInTheUpperCasedMessageClassOfAReadableItem) {
   struct Case {
     const char* messageClass;
     bool supported;
@@ -31,12 +31,9 @@ TEST_F(ItemFilters, SupportedClassesAreFoundInTheUpperCasedMessageClass) {
     item->SetField("MessageClass", c.messageClass);
     EXPECT_EQ(IsSupportMessageClass(t.s, item->AsObject()), c.supported) << c.messageClass;
   }
-}
-
-TEST_F(ItemFilters, AnUnreadableItemIsNotSupportedAndSaysNothing) {
-  auto gone = Appointment("A");
-  gone->Delete();
-  EXPECT_FALSE(IsSupportMessageClass(t.s, gone->AsObject()));
+  // An unreadable item is not supported and says nothing.
+  item->Delete();
+  EXPECT_FALSE(IsSupportMessageClass(t.s, item->AsObject()));
   EXPECT_FALSE(IsSupportMessageClass(t.s, Object()));
   EXPECT_FALSE(t.s.err.pending());
   EXPECT_TRUE(t.Reports().empty());
@@ -88,12 +85,9 @@ TEST_F(ItemFilters, TheDefaultFolderRestrictionsFollowTheFoldersKind) {
     EXPECT_EQ(IsDefaultFolder(t.s, notes->AsObject()), c.notes) << at;
   }
   EXPECT_TRUE(t.Reports().empty());
-}
-
-TEST_F(ItemFilters, AFolderThatCannotBeReadIsReportedAndNotDefault) {
-  auto folder = world.Calendar();
-  folder->FailMember("DefaultItemType", -2147467259, "The operation failed.");
-  EXPECT_FALSE(IsDefaultFolder(t.s, folder->AsObject()));
+  // A folder that cannot be read is reported and is no default one.
+  notes->FailMember("DefaultItemType", -2147467259, "The operation failed.");
+  EXPECT_FALSE(IsDefaultFolder(t.s, notes->AsObject()));
   EXPECT_TRUE(t.Reported("Main.IsDefaultFolder", 10));
 }
 

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/failure.h"
-#include "reporting/item_schema.h"
 #include "unit/reporting/report_fixture.h"
 
 namespace qvx {
@@ -37,70 +35,51 @@ TEST_F(ReportRules, RecurrenceIsJudgedOnTheItemAsSuch) {
   }
 }
 
-TEST_F(ReportRules, AnItemWithoutThePropertyFailsTowardsTheCaller) {
-  auto mail = world.AddMail("Mail");
-  t.settings().AllowRecurring = -1;
-  EXPECT_TRUE(IsPrivateAllowed(t.s, mail->AsObject()));
-  EXPECT_THROW(IsRecurringAllowed(t.s, mail->AsObject()), Failure);
-  auto gone = Appointment("Gone");
-  gone->Delete();
-  EXPECT_THROW(IsPrivateAllowed(t.s, gone->AsObject()), Failure);
-  EXPECT_TRUE(t.Reports().empty());
-}
-
 struct MandatoryCase {
   int16_t cMySettings::*active;  // null for project and activity
   int16_t cMySettings::*mandatory;
-  std::string_view property;
+  std::string property;
   std::string line;
 };
 
 std::vector<MandatoryCase> MandatoryCases() {
   using c = cMySettings;
-  return {
-      {nullptr, &c::ProjectMandatory, schema::kProjectValue,
-       "\t- Project field is mandatory for reporting!"},
-      {nullptr, &c::ActivityMandatory, schema::kActivityValue,
-       "\t- Activity field is mandatory for reporting!"},
-      {&c::CustomList1Active, &c::CustomList1Mandatory, schema::kField1Value,
-       "\t- Custom Field 1 is mandatory for reporting!"},
-      {&c::CustomList2Active, &c::CustomList2Mandatory, schema::kField2Value,
-       "\t- Custom Field 2 is mandatory for reporting!"},
-      {&c::CustomList3Active, &c::CustomList3Mandatory, schema::kField3Value,
-       "\t- Custom Field 3 is mandatory for reporting!"},
-      {&c::CustomList4Active, &c::CustomList4Mandatory, schema::kField4Value,
-       "\t- Custom Field 4 is mandatory for reporting!"},
-      {&c::CustomField5Active, &c::CustomField5Mandatory, schema::kField5Value,
-       "\t- Custom Field 5 is mandatory for reporting!"},
-      {&c::CustomField6Active, &c::CustomField6Mandatory, schema::kField6Value,
-       "\t- Custom Field 6 is mandatory for reporting!"},
-      {&c::CustomField7Active, &c::CustomField7Mandatory, schema::kField7Value,
-       "\t- Custom Field 7 is mandatory for reporting!"},
-      {&c::CustomField8Active, &c::CustomField8Mandatory, schema::kField8Value,
-       "\t- Custom Field 8 is mandatory for reporting!"},
-      {&c::CustomField9Active, &c::CustomField9Mandatory, schema::kField9Value,
-       "\t- Custom Field 9 is mandatory for reporting!"},
-      {&c::CustomField10Active, &c::CustomField10Mandatory, schema::kField10Value,
-       "\t- Custom Field 10 is mandatory for reporting!"},
-  };
+  std::vector<MandatoryCase> cases = {{nullptr, &c::ProjectMandatory, "ProjectValue",
+                                       "\t- Project field is mandatory for reporting!"},
+                                      {nullptr, &c::ActivityMandatory, "ActivityValue",
+                                       "\t- Activity field is mandatory for reporting!"}};
+  int16_t c::*active[] = {&c::CustomList1Active,  &c::CustomList2Active,  &c::CustomList3Active,
+                          &c::CustomList4Active,  &c::CustomField5Active, &c::CustomField6Active,
+                          &c::CustomField7Active, &c::CustomField8Active, &c::CustomField9Active,
+                          &c::CustomField10Active};
+  int16_t c::*mandatory[] = {&c::CustomList1Mandatory,  &c::CustomList2Mandatory,
+                             &c::CustomList3Mandatory,  &c::CustomList4Mandatory,
+                             &c::CustomField5Mandatory, &c::CustomField6Mandatory,
+                             &c::CustomField7Mandatory, &c::CustomField8Mandatory,
+                             &c::CustomField9Mandatory, &c::CustomField10Mandatory};
+  for (int n = 1; n <= 10; ++n) {
+    const std::string number = std::to_string(n);
+    cases.push_back({active[n - 1], mandatory[n - 1], "Field" + number + "Value",
+                     "\t- Custom Field " + number + " is mandatory for reporting!"});
+  }
+  return cases;
 }
 
 TEST_F(ReportRules, EachMandatoryTestNeedsItsSwitchesAndAValue) {
   for (const MandatoryCase& m : MandatoryCases()) {
     auto item = Appointment("A");
     cMySettings& c = t.settings();
-    const std::string what(m.property);
     c.*m.mandatory = -1;
     if (m.active != nullptr) {
       // Mandatory alone is not enough for a custom field: it must be in use.
-      EXPECT_EQ(AllMandatoryFieldsFilled(t.s, item->AsObject()), "") << what;
+      EXPECT_EQ(AllMandatoryFieldsFilled(t.s, item->AsObject()), "") << m.property;
       c.*m.active = 1;
     }
-    EXPECT_EQ(AllMandatoryFieldsFilled(t.s, item->AsObject()), m.line) << what;
+    EXPECT_EQ(AllMandatoryFieldsFilled(t.s, item->AsObject()), m.line) << m.property;
     Tag(*item, m.property, "  ");  // blanks are no value
-    EXPECT_EQ(AllMandatoryFieldsFilled(t.s, item->AsObject()), m.line) << what;
+    EXPECT_EQ(AllMandatoryFieldsFilled(t.s, item->AsObject()), m.line) << m.property;
     Tag(*item, m.property, "x");
-    EXPECT_EQ(AllMandatoryFieldsFilled(t.s, item->AsObject()), "") << what;
+    EXPECT_EQ(AllMandatoryFieldsFilled(t.s, item->AsObject()), "") << m.property;
     c.*m.mandatory = 0;
     if (m.active != nullptr) c.*m.active = 0;
   }
@@ -138,6 +117,7 @@ TEST_F(ReportRules, ADefaultStandsInWithoutBeingWritten) {
   cMySettings& c = t.settings();
   c.ProjectMandatory = c.ActivityMandatory = 1;
   c.CustomList1Active = c.CustomList1Mandatory = 1;
+  c.CustomField5Active = c.CustomField5Mandatory = 1;  // the free fields have no default
   c.EnableDefaultValueForProjectTask = -1;
   c.DefaultValueForProject = "Internal";
   c.DefaultValueForTask = " ";  // a default of blanks is no value either
@@ -145,19 +125,11 @@ TEST_F(ReportRules, ADefaultStandsInWithoutBeingWritten) {
   c.DefaultValueCustomField1 = "Travel";
   auto item = Appointment("A");
   EXPECT_EQ(AllMandatoryFieldsFilled(t.s, item->AsObject()),
-            "\t- Activity field is mandatory for reporting!");
+            "\t- Activity field is mandatory for reporting!\r\n"
+            "\t- Custom Field 5 is mandatory for reporting!");
   EXPECT_EQ(item->UserProperties().Find("ProjectValue"), nullptr);
   EXPECT_EQ(item->UserProperties().Find("Field1Value"), nullptr);
   EXPECT_EQ(item->saveCount(), 0);
-}
-
-TEST_F(ReportRules, TheFreeCustomFieldsHaveNoDefault) {
-  cMySettings& c = t.settings();
-  c.CustomField5Active = c.CustomField5Mandatory = 1;
-  c.EnableDefaultValueForProjectTask = c.EnableDefaultValueForCustomField1 = -1;
-  c.DefaultValueForProject = c.DefaultValueCustomField1 = "x";
-  EXPECT_EQ(AllMandatoryFieldsFilled(t.s, Appointment("A")->AsObject()),
-            "\t- Custom Field 5 is mandatory for reporting!");
 }
 
 TEST_F(ReportRules, WithoutSettingsTheTestIsReportedAndGivesNothing) {

@@ -3,7 +3,6 @@
 #include "reporting/tag_values.h"
 
 #include "settings/tasks_per_project_list.h"
-#include "sim/faults.h"
 #include "sim/outlook.h"
 #include "unit/reporting/tagging_fixture.h"
 
@@ -16,33 +15,7 @@ class TagValuesTest : public TaggingTest {
   std::string& selectedActivity() { return s().tagging.SELECTED_ACTIVITY_VALUE; }
 };
 
-TEST_F(TagValuesTest, AProjectKeepsAnActivityThatBelongsToIt) {
-  auto item = Appointment("Planning");
-  Select({item});
-  selectedActivity() = "Design";
-  Main::TagProjectValueToItem(s(), "Alpha");
-  EXPECT_EQ(Prop(*item, "ProjectValue"), "Alpha");
-  EXPECT_EQ(Prop(*item, "ActivityValue"), "(none)");
-  EXPECT_EQ(selectedActivity(), "Design");
-  EXPECT_FALSE(s().tagging.blnTaggingInProgress);
-}
-
-TEST_F(TagValuesTest, AnActivityOfAnotherProjectIsClearedBeforeTheProjectIsWritten) {
-  settings().TagProjectToCategories = -1;
-  auto item = Appointment("Planning");
-  item->SetField("Categories", "Red");
-  item->UserProperties().Set("ActivityValue", sim::kOlText, Variant("Build"));
-  Select({item});
-  selectedActivity() = "Build";
-  Main::TagProjectValueToItem(s(), "Alpha");
-  EXPECT_EQ(Prop(*item, "ActivityValue"), "");
-  EXPECT_EQ(Prop(*item, "ProjectValue"), "Alpha");
-  // The empty activity went in first, then the project in front of it.
-  EXPECT_EQ(Categories(*item), "Alpha,,Red");
-  EXPECT_EQ(selectedActivity(), "");
-}
-
-TEST_F(TagValuesTest, AProjectOutsideTheListIsWrittenAsTyped) {
+TEST_F(TagValuesTest, AProjectOutsideTheListKeepsTheActivityAndAnUnreadCatalogueIsReadFirst) {
   auto item = Appointment("Planning");
   Select({item});
   selectedActivity() = "Build";
@@ -50,31 +23,8 @@ TEST_F(TagValuesTest, AProjectOutsideTheListIsWrittenAsTyped) {
   EXPECT_EQ(Prop(*item, "ProjectValue"), "Free text");
   EXPECT_EQ(Prop(*item, "ActivityValue"), "(none)");
   EXPECT_EQ(selectedActivity(), "Build");
-}
 
-TEST_F(TagValuesTest, AnEmptyProjectClearsTheActivityAndLeavesTheDates) {
-  settings().UpdateStartDateWithProjectStartDate = -1;
-  settings().UpdateAppointmentEndDateWith = -1;
-  settings().UpdateTaskDueDateWith = -1;
-  auto item = Appointment("Planning");
-  item->UserProperties().Set("ProjectValue", sim::kOlText, Variant("Alpha"));
-  item->UserProperties().Set("ActivityValue", sim::kOlText, Variant("Design"));
-  const DateValue start = Date(*item, "Start");
-  const DateValue end = Date(*item, "End");
-  Select({item});
-  selectedActivity() = "Design";
-  Main::TagProjectValueToItem(s(), "");
-  EXPECT_EQ(Prop(*item, "ProjectValue"), "");
-  EXPECT_EQ(Prop(*item, "ActivityValue"), "");
-  EXPECT_EQ(selectedActivity(), "");
-  EXPECT_EQ(Date(*item, "Start"), start);
-  EXPECT_EQ(Date(*item, "End"), end);
-}
-
-TEST_F(TagValuesTest, ACatalogueNotYetLoadedIsReadFirst) {
   settings().MyProjectsTasks = std::make_shared<cTasksPerProjectList>();
-  auto item = Appointment("Planning");
-  Select({item});
   selectedActivity() = "Design";
   Main::TagProjectValueToItem(s(), " Beta ");
   EXPECT_EQ(settings().MyProjectsTasks->dicList.Count(), 3u);
@@ -109,33 +59,6 @@ TEST_F(TagValuesTest, TheFlagIsSetWhileTheSelectionIsWorked) {
   ASSERT_EQ(seen.size(), 2u);
   EXPECT_FALSE(seen[1]);
   EXPECT_EQ(Prop(*b, "ActivityValue"), "Design");
-}
-
-TEST_F(TagValuesTest, AReportedFailureLeavesTheFlagSet) {
-  auto item = Appointment("Planning");
-  Select({item});
-  item->FailMember("EntryID", sim::hresult::kFail, "boom");
-  Main::TagProjectValueToItem(s(), "Alpha");
-  EXPECT_TRUE(Reported("Main.TagProjectValueToItem", 20));
-  EXPECT_TRUE(s().tagging.blnTaggingInProgress);
-  EXPECT_EQ(Prop(*item, "ProjectValue"), "(none)");
-}
-
-TEST_F(TagValuesTest, ASelectionMovedByMessagesIsNotTaggedByTheNextStep) {
-  auto a = Appointment("A");
-  auto b = Appointment("B");
-  auto other = Appointment("Other");
-  Select({a, b});
-  selectedActivity() = "Build";  // not Alpha's: cleared first, across the selection
-  host().Pending().Post([&] { Select({other}); });
-  Main::TagProjectValueToItem(s(), "Alpha");
-  EXPECT_EQ(Prop(*a, "ActivityValue"), "");
-  EXPECT_EQ(Prop(*b, "ActivityValue"), "");
-  // The project step finds one other item where the first one was noted.
-  EXPECT_EQ(Prop(*a, "ProjectValue"), "(none)");
-  EXPECT_EQ(Prop(*b, "ProjectValue"), "(none)");
-  EXPECT_TRUE(other->UserProperties().list().empty());
-  EXPECT_FALSE(s().tagging.blnTaggingInProgress);
 }
 
 TEST_F(TagValuesTest, AnInspectorsNewItemTakesAProjectButNoActivity) {
