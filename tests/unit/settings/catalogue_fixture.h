@@ -39,8 +39,4 @@ inline Strings Activities(const cTasksPerProject& project) {
   return names;
 }
 
-inline DateValue Day(int year, int month, int day) {
-  return DateSerial(year, month, day);
-}
-
 }  // namespace qvx::testing

@@ -1,5 +1,8 @@
+// The central failure handler: the first report and its form, the mail of a
+// report, and the trace log.
 #include "support/error_reporting.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -15,28 +18,6 @@ namespace {
 
 using platform::FormScript;
 namespace msgbox = platform::msgbox;
-
-const char* const kExpectedReport =
-    "At Line: 120\r\n"
-    "In Function: Main.ReportToDB\r\n"
-    "Source: Microsoft Outlook\r\n"
-    "Exception Number: 91\r\n"
-    "Exception Description: Object variable or With block variable not set\r\n";
-
-TEST(ErrorReportText, FiveLinesEachEndedByCrLf) {
-  EXPECT_EQ(BuildErrorReport(120, "Main.ReportToDB", "Microsoft Outlook", 91,
-                             "Object variable or With block variable not set"),
-            kExpectedReport);
-  EXPECT_EQ(BuildErrorReport(0, "", "", -2147221233, ""),
-            "At Line: 0\r\nIn Function: \r\nSource: \r\nException Number: -2147221233\r\n"
-            "Exception Description: \r\n");
-}
-
-TEST(ErrorReportText, VersionTextIsTheBuildsNumbers) {
-  EXPECT_EQ(GetVersionText(), std::to_string(QVX_VERSION_MAJOR) + "." +
-                                  std::to_string(QVX_VERSION_MINOR) + "." +
-                                  std::to_string(QVX_VERSION_PATCH));
-}
 
 class ErrorReporting : public SupportTest {
  protected:
@@ -54,31 +35,41 @@ TEST_F(ErrorReporting, TheFirstFailureShowsItsReportAndLaterOnesLeaveNoTrace) {
   FailIn("Main.Other", 30, 5, "Invalid procedure call or argument");
   ASSERT_EQ(ui.Forms().size(), 1u);
   EXPECT_TRUE(ui.MessageBoxes().empty());
+  EXPECT_TRUE(s.support.firstReportShown);
   const platform::FormRecord& form = ui.Forms()[0];
   EXPECT_EQ(form.caption, "Unknown Exception");
   EXPECT_EQ(form.height, 3150);
+  std::vector<std::string> names;
+  for (const auto& c : form.controls) names.push_back(c.name);
+  ASSERT_EQ(names, (std::vector<std::string>{"lblBuild", "txtReport", "cmdViewReport", "cmdCancel",
+                                             "lblApplication", "lblCommentFirst",
+                                             "lblCommentSecond", "lblClickHere", "cmdOpenEmail",
+                                             "lblLearn", "frameReport", "lblSendDirectly"}));
   const auto control = [&form](std::string_view name) {
-    for (const auto& c : form.controls) {
-      if (c.name == name) return c;
-    }
-    ADD_FAILURE() << name;
-    return platform::FormControl{};
+    return *std::find_if(form.controls.begin(), form.controls.end(),
+                         [name](const platform::FormControl& c) { return c.name == name; });
   };
-  EXPECT_EQ(control("txtReport").text, kExpectedReport);
+  EXPECT_EQ(control("txtReport").text,
+            "At Line: 120\r\nIn Function: Main.ReportToDB\r\nSource: Microsoft Outlook\r\n"
+            "Exception Number: 91\r\n"
+            "Exception Description: Object variable or With block variable not set\r\n");
   EXPECT_EQ(control("lblApplication").caption, "Quorvix Client Addin");
   EXPECT_EQ(control("lblBuild").caption, "Build " + GetVersionText());
+  EXPECT_EQ(control("lblCommentFirst").caption.substr(0, 35),
+            "An unknown exception has occured. A");
+  EXPECT_EQ(control("frameReport").caption, "Exception Report");
+  EXPECT_EQ(control("lblClickHere").caption, "click here.");
+  EXPECT_EQ(control("lblSendDirectly").caption, "Send directly");
   EXPECT_FALSE(control("lblSendDirectly").visible);
   EXPECT_TRUE(control("cmdOpenEmail").visible);
-  EXPECT_TRUE(s.support.firstReportShown);
 }
 
 TEST_F(ErrorReporting, DirectSendingIsOfferedOnlyWhenAllowed) {
   ConnectHost();
-  s.err.source = "src";
   ReportError(s, "d", 1, 10, "Label", true);
   ASSERT_EQ(ui.Forms().size(), 1u);
-  EXPECT_TRUE(ui.Forms()[0].controls.back().visible);
   EXPECT_EQ(ui.Forms()[0].controls.back().name, "lblSendDirectly");
+  EXPECT_TRUE(ui.Forms()[0].controls.back().visible);
 }
 
 TEST_F(ErrorReporting, AFailureWhileOpenIsDropped) {
@@ -105,34 +96,22 @@ TEST_F(ErrorReporting, AFailureInsideTheHandlerIsClearedSilently) {
   EXPECT_TRUE(s.support.firstReportShown);
 }
 
-TEST_F(ErrorReporting, ViewReportTogglesHeightAndCaption) {
+TEST_F(ErrorReporting, TheFormTogglesItsReportAndOpensThePolicyPage) {
   frmErrorReport form(s);
-  EXPECT_EQ(form.Height(), 3150);
   form.OnEvent("cmdViewReport", "Click");
   EXPECT_EQ(form.Height(), 5535);
   EXPECT_EQ(form.Control("cmdViewReport").caption, "Hide Report");
   form.OnEvent("cmdViewReport", "Click");
   EXPECT_EQ(form.Height(), 3150);
   EXPECT_EQ(form.Control("cmdViewReport").caption, "View Report");
+  form.OnEvent("lblClickHere", "Click");
   EXPECT_FALSE(form.Unloaded());
+  ASSERT_EQ(system.Launches().size(), 1u);
+  EXPECT_EQ(system.Launches()[0].path, ProductWebPage("/support/ErrorReportingPolicy.asp"));
+  EXPECT_EQ(system.Launches()[0].argument, "");
 }
 
-TEST_F(ErrorReporting, TheFormsFixedTextsInDeclaredOrder) {
-  frmErrorReport form(s);
-  std::vector<std::string> names;
-  for (const auto& c : form.Controls()) names.push_back(c.name);
-  EXPECT_EQ(names, (std::vector<std::string>{"lblBuild", "txtReport", "cmdViewReport", "cmdCancel",
-                                             "lblApplication", "lblCommentFirst",
-                                             "lblCommentSecond", "lblClickHere", "cmdOpenEmail",
-                                             "lblLearn", "frameReport", "lblSendDirectly"}));
-  EXPECT_EQ(form.Control("lblCommentFirst").caption.substr(0, 35),
-            "An unknown exception has occured. A");
-  EXPECT_EQ(form.Control("frameReport").caption, "Exception Report");
-  EXPECT_EQ(form.Control("lblClickHere").caption, "click here.");
-  EXPECT_EQ(form.Control("lblSendDirectly").caption, "Send directly");
-}
-
-TEST_F(ErrorReporting, AnEditedReportIsWhatIsMailed) {
+TEST_F(ErrorReporting, AnEditedReportIsWhatIsMailedAndCancelSendsNothing) {
   ConnectHost();
   ui.QueueForm(FormScript().SetText("txtReport", "edited by the user").Click("cmdOpenEmail"));
   FailIn("Main.ReportToDB", 120, 91, "x");
@@ -145,23 +124,11 @@ TEST_F(ErrorReporting, AnEditedReportIsWhatIsMailed) {
   EXPECT_EQ(mail.displays, 1);
   EXPECT_FALSE(ui.Forms()[0].closedByCloseBox);
   EXPECT_TRUE(ui.MessageBoxes().empty());
-}
 
-TEST_F(ErrorReporting, CancelSendsNothing) {
-  ConnectHost();
-  ui.QueueForm(FormScript().Click("cmdCancel"));
-  FailIn("Main.ReportToDB", 120, 91, "x");
-  EXPECT_TRUE(outlook.createdItems.empty());
-  EXPECT_FALSE(ui.Forms()[0].closedByCloseBox);
-}
-
-TEST_F(ErrorReporting, ClickHereOpensThePolicyPage) {
-  ConnectHost();
   frmErrorReport form(s);
-  form.OnEvent("lblClickHere", "Click");
-  ASSERT_EQ(system.Launches().size(), 1u);
-  EXPECT_EQ(system.Launches()[0].path, ProductWebPage("/support/ErrorReportingPolicy.asp"));
-  EXPECT_EQ(system.Launches()[0].argument, "");
+  form.OnEvent("cmdCancel", "Click");
+  EXPECT_TRUE(form.Unloaded());
+  EXPECT_EQ(outlook.createdItems.size(), 1u);
 }
 
 TEST_F(ErrorReporting, MailingFailuresAreToldOnlyWhenSendingDirectly) {
@@ -177,13 +144,10 @@ TEST_F(ErrorReporting, MailingFailuresAreToldOnlyWhenSendingDirectly) {
   EXPECT_FALSE(s.err.pending());
 }
 
-TEST_F(ErrorReporting, WithTheTraceFlagOffNoLogIsMade) {
+TEST_F(ErrorReporting, EachActionIsRecordedAndLoggedOnlyWithTheTraceFlag) {
   SetCurrentAction(s, "Attempting to execute x");
   EXPECT_EQ(s.support.strCurrentAction, "Attempting to execute x");
-  EXPECT_TRUE(std::filesystem::is_empty(Home()));
-}
-
-TEST_F(ErrorReporting, WithTheTraceFlagOnEachActionIsAppendedToTheLog) {
+  EXPECT_TRUE(std::filesystem::is_empty(Home()));  // no log without the flag
   std::filesystem::create_directories(Home() + "/Documents");
   s.support.traceFlag = true;
   const DateValue now = ComposeDate({2026, 3, 4, 15, 4, 5});

@@ -7,59 +7,52 @@ Variant Nothing() {
   return Variant(Object());
 }
 
+// A member that counts its calls.
+NativeObject::Member Counting(int* calls) {
+  return [calls](InvokeKind, Args&) {
+    ++*calls;
+    return Variant();
+  };
+}
+
 }  // namespace
 
 Object FakeItem::AsObject() {
   auto item = std::make_shared<NativeObject>(typeName);
   FakeItem* self = this;
-  const auto guard = [self] {
-    if (self->gone) throw Failure(-2147221233, "Microsoft Outlook", "The item has been deleted.");
+  // Every member fails once the item is gone.
+  const auto define = [self, &item](std::string_view name, NativeObject::Member member) {
+    item->Define(name, [self, member](InvokeKind kind, Args& args) {
+      if (self->gone) throw Failure(-2147221233, "Microsoft Outlook", "The item has been deleted.");
+      return member(kind, args);
+    });
   };
-  item->Define("UserProperties", [self, guard](InvokeKind, Args&) {
-    guard();
+  define("UserProperties", [self](InvokeKind, Args&) {
     auto props = std::make_shared<NativeObject>("UserProperties");
     props->Define("Find", [self](InvokeKind, Args& args) {
       const std::string name = platform::RequiredArg(args, 0).ToText();
       for (auto& [key, value] : self->userProperties) {
-        if (EqualsText(key, name)) {
-          auto prop = std::make_shared<NativeObject>("UserProperty");
-          const Variant v = value;
-          prop->Define("Value", [v](InvokeKind, Args&) { return v; });
-          return Variant(Object(prop));
-        }
+        if (!EqualsText(key, name)) continue;
+        auto prop = std::make_shared<NativeObject>("UserProperty");
+        prop->Define("Value", [v = value](InvokeKind, Args&) { return v; });
+        return Variant(Object(prop));
       }
       return Nothing();
     });
     return Variant(Object(props));
   });
-  item->Define("IsRecurring", [self, guard](InvokeKind, Args&) {
-    guard();
-    return Variant(self->isRecurring);
-  });
-  item->Define("RecurrenceState", [self, guard](InvokeKind, Args&) {
-    guard();
-    return Variant(self->recurrenceState);
-  });
-  const auto text = [self, guard](std::string FakeItem::*field) {
-    return [self, guard, field](InvokeKind kind, Args& args) {
-      guard();
+  define("IsRecurring", [self](InvokeKind, Args&) { return Variant(self->isRecurring); });
+  define("RecurrenceState", [self](InvokeKind, Args&) { return Variant(self->recurrenceState); });
+  for (auto [name, field] :
+       {std::pair{"To", &FakeItem::to}, std::pair{"Subject", &FakeItem::subject},
+        std::pair{"Body", &FakeItem::body}}) {
+    define(name, [self, field](InvokeKind kind, Args& args) {
       if (kind == InvokeKind::Put) self->*field = args.back().ToText();
       return Variant(self->*field);
-    };
-  };
-  item->Define("To", text(&FakeItem::to));
-  item->Define("Subject", text(&FakeItem::subject));
-  item->Define("Body", text(&FakeItem::body));
-  item->Define("Save", [self, guard](InvokeKind, Args&) {
-    guard();
-    ++self->saves;
-    return Variant();
-  });
-  item->Define("Display", [self, guard](InvokeKind, Args&) {
-    guard();
-    ++self->displays;
-    return Variant();
-  });
+    });
+  }
+  define("Save", Counting(&saves));
+  define("Display", Counting(&displays));
   return Object(item);
 }
 
@@ -69,14 +62,8 @@ Object FakeOutlook::Application() {
   auto app = std::make_shared<NativeObject>("Application");
 
   auto explorer = std::make_shared<NativeObject>("Explorer");
-  explorer->Define("Activate", [self](InvokeKind, Args&) {
-    ++self->activations;
-    return Variant();
-  });
-  explorer->Define("Display", [self](InvokeKind, Args&) {
-    ++self->displays;
-    return Variant();
-  });
+  explorer->Define("Activate", Counting(&activations));
+  explorer->Define("Display", Counting(&displays));
   const Object explorerObject(explorer);
 
   auto explorers = std::make_shared<NativeObject>("Explorers");
@@ -104,14 +91,12 @@ Object FakeOutlook::Application() {
     store->Define("Name", [self](InvokeKind, Args&) { return Variant(self->mailboxName); });
     auto folder = std::make_shared<NativeObject>("MAPIFolder");
     folder->Define("Number", [number](InvokeKind, Args&) { return Variant(number); });
-    const Object storeObject(store);
-    folder->Define("Parent", [storeObject](InvokeKind, Args&) { return Variant(storeObject); });
+    folder->Define("Parent", [store = Object(store)](InvokeKind, Args&) { return Variant(store); });
     return Variant(Object(folder));
   });
-  const Object nsObject(ns);
 
   app->Define("Version", [self](InvokeKind, Args&) { return Variant(self->version); });
-  app->Define("GetNamespace", [self, nsObject](InvokeKind, Args& args) {
+  app->Define("GetNamespace", [self, nsObject = Object(ns)](InvokeKind, Args& args) {
     ++self->namespaceCalls;
     if (platform::RequiredArg(args, 0).ToText() != "MAPI") throw Failure::Runtime(5);
     return Variant(nsObject);

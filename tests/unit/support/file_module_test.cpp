@@ -16,8 +16,9 @@ namespace msgbox = platform::msgbox;
 class RunAppTest : public SupportTest {
  protected:
   RunAppTest() {
-    Touch(fs::path(AddinFolder()) / "QuorvixClient.exe");
-    Touch(fs::path(Other()) / "Other.exe");
+    fs::create_directories(Other());
+    std::ofstream{fs::path(AddinFolder()) / "QuorvixClient.exe"};
+    std::ofstream{fs::path(Other()) / "Other.exe"};
   }
   std::string Other() const { return Home() + "/other"; }
   std::string InAddin(std::string_view exe) const {
@@ -90,30 +91,6 @@ TEST_F(RunAppTest, AFailedStartIsSilent) {
   EXPECT_TRUE(ui.MessageBoxes().empty());
   EXPECT_TRUE(ui.Forms().empty());
   EXPECT_FALSE(s.err.pending());
-}
-
-TEST_F(RunAppTest, TheLaunchedProgramGetsTheParametersAsOneArgument) {
-  const fs::path program = fs::path(AddinFolder()) / "Echo.exe";
-  const fs::path out = fs::path(Home()) / "argv.txt";
-  {
-    std::ofstream script(program);
-    script << "#!/bin/sh\nprintf '%s\\n' \"$#\" \"$1\" > '" << out.string() << "'\n";
-  }
-  fs::permissions(program, fs::perms::owner_all);
-  system.SetSpawn(true);
-  const std::string parameters = "0|Store ID|0001;1/2/2026 3:04:05 PM|\"q\" *";
-  FileModule::RunApp(s, "Echo", parameters, "");
-  system.WaitForChildren();
-  std::ifstream in(out);
-  std::string count, argument;
-  std::getline(in, count);
-  std::getline(in, argument);
-  EXPECT_EQ(count, "1");
-  EXPECT_EQ(argument, parameters);
-}
-
-TEST_F(RunAppTest, RecordsTheActionsUnderWay) {
-  FileModule::RunApp(s, "QuorvixClient", "6", "");
   EXPECT_EQ(s.support.strCurrentAction,
             "Attempting to execute the path '" + InAddin("QuorvixClient.exe") + "'");
 }
@@ -127,10 +104,6 @@ TEST_F(SupportTest, RemoveTrailingSlashRemovesOneAndClearsTheError) {
     EXPECT_EQ(RemoveTrailingSlash(s, in), out) << in;
     EXPECT_FALSE(s.err.pending());
   }
-}
-
-TEST_F(SupportTest, SpecialFolderFiveIsTheDocuments) {
-  EXPECT_EQ(GetSpecialFolder(s, 5, 0), Home() + "/Documents");
 }
 
 TEST_F(SupportTest, ShellOpenClearsTheErrorTheOtherWrapperLeavesIt) {
@@ -152,7 +125,9 @@ TEST_F(SupportTest, FileSystemObjectIsMadeOnceAndRecordsTheAction) {
   EXPECT_TRUE(system.CommandLines().empty());
 }
 
-TEST_F(SupportTest, AMissingFileSystemLibraryIsRepairedOnceAndLeftEmpty) {
+// Missing from the platform: its library is registered again, once, and with
+// no host the object stays Nothing; the host's CreateObject makes it then.
+TEST_F(SupportTest, AMissingFileSystemLibraryIsRepairedOnceOrTheHostMakesIt) {
   objects.Refuse("Scripting.FileSystemObject");
   FileModule::Initialize(s);
   FileModule::Initialize(s);
@@ -161,10 +136,6 @@ TEST_F(SupportTest, AMissingFileSystemLibraryIsRepairedOnceAndLeftEmpty) {
   EXPECT_FALSE(s.err.pending());
   EXPECT_TRUE(ui.MessageBoxes().empty());
   EXPECT_TRUE(ui.Forms().empty());
-}
-
-TEST_F(SupportTest, TheFileSystemObjectMayComeFromTheHost) {
-  objects.Refuse("Scripting.FileSystemObject");
   outlook.hostCreates = platform::MakeFileSystemObject(system);
   ConnectHost();
   FileModule::Initialize(s);
@@ -173,19 +144,13 @@ TEST_F(SupportTest, TheFileSystemObjectMayComeFromTheHost) {
             std::vector<std::string>{"Scripting.FileSystemObject"});
 }
 
-TEST_F(SupportTest, DictionaryHasTextCompare) {
-  Object dictionary = Scripting::Initialize(s);
-  ASSERT_FALSE(dictionary.IsNothing());
-  EXPECT_EQ(dictionary.Get("CompareMode").ToLong(), 1);
-}
-
 TEST_F(SupportTest, AMissingDictionaryLibraryIsRepairedOnceAndGivesNothing) {
   objects.Refuse("Scripting.Dictionary");
   EXPECT_TRUE(Scripting::Initialize(s).IsNothing());
   EXPECT_TRUE(Scripting::Initialize(s).IsNothing());
   EXPECT_EQ(system.CommandLines(), std::vector<std::string>{"regsvr32 scrrun.dll /s"});
   objects.Allow("Scripting.Dictionary");
-  EXPECT_FALSE(Scripting::Initialize(s).IsNothing());
+  EXPECT_EQ(Scripting::Initialize(s).Get("CompareMode").ToLong(), 1);  // text compare
 }
 
 TEST_F(SupportTest, ShellObjectRepairIsTriedOnEachMissingCreation) {

@@ -20,7 +20,13 @@ namespace qvx::testing {
 
 class SupportTest : public ::testing::Test {
  protected:
-  SupportTest() : root_(MakeRoot()), system(Options(root_)), objects(system) {}
+  SupportTest()
+      : root_(MakeRoot()),
+        system({.home = Home(),
+                .addinFolder = AddinFolder(),
+                .spawn = false,
+                .environment = {{"USERNAME", "winuser"}}}),
+        objects(system) {}
   ~SupportTest() override { std::filesystem::remove_all(root_); }
 
   // The host is the add-in's connected Application.
@@ -31,12 +37,6 @@ class SupportTest : public ::testing::Test {
   }
   std::string Home() const { return (root_ / "home").string(); }
   std::string AddinFolder() const { return (root_ / "addin").string(); }
-  // Creates an empty file.
-  static void Touch(const std::filesystem::path& path) {
-    std::filesystem::create_directories(path.parent_path());
-    FILE* f = std::fopen(path.c_str(), "w");
-    if (f != nullptr) std::fclose(f);
-  }
 
  private:
   static std::filesystem::path MakeRoot() {
@@ -48,14 +48,6 @@ class SupportTest : public ::testing::Test {
     std::filesystem::create_directories(root / "home");
     std::filesystem::create_directories(root / "addin");
     return root;
-  }
-  static platform::PosixSystemOptions Options(const std::filesystem::path& root) {
-    platform::PosixSystemOptions o;
-    o.home = (root / "home").string();
-    o.addinFolder = (root / "addin").string();
-    o.spawn = false;
-    o.environment = {{"USERNAME", "winuser"}};
-    return o;
   }
 
   std::filesystem::path root_;
