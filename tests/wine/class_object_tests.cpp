@@ -13,74 +13,53 @@ constexpr CLSID kOtherClass = {
     0x12345678, 0x1234, 0x1234, {0x12, 0x34, 0x12, 0x34, 0x56, 0x78, 0x9A, 0xBC}};
 
 ComPtr<IClassFactory> Factory() {
-  const AddinDll& dll = AddinDll::Get();
-  REQUIRE(dll.Loaded());
   ComPtr<IClassFactory> factory;
-  REQUIRE_EQ(dll.GetClassObject(kAddinClass, IID_IClassFactory, factory.PutVoid()), S_OK);
-  REQUIRE(factory);
+  REQUIRE_EQ(Dll().GetClassObject(kAddinClass, IID_IClassFactory, factory.PutVoid()), S_OK);
   return factory;
 }
 
 }  // namespace
 
-WINE_TEST(ClassObject, ServesOnlyTheAddinClass) {
-  const AddinDll& dll = AddinDll::Get();
-  REQUIRE(dll.Loaded());
+WINE_TEST(ClassObject, MakesOnlyTheAddinWithItsInterfaces) {
   void* out = reinterpret_cast<void*>(1);
-  CHECK_EQ(dll.GetClassObject(kOtherClass, IID_IClassFactory, &out), CLASS_E_CLASSNOTAVAILABLE);
+  CHECK_EQ(Dll().GetClassObject(kOtherClass, IID_IClassFactory, &out), CLASS_E_CLASSNOTAVAILABLE);
   CHECK(out == nullptr);
-  CHECK_EQ(dll.GetClassObject(kAddinClass, IID_IClassFactory, nullptr), E_POINTER);
-  CHECK_EQ(dll.GetClassObject(kAddinClass, IID_IDispatch, &out), E_NOINTERFACE);
+  CHECK_EQ(Dll().GetClassObject(kAddinClass, IID_IClassFactory, nullptr), E_POINTER);
+  CHECK_EQ(Dll().GetClassObject(kAddinClass, IID_IDispatch, &out), E_NOINTERFACE);
   CHECK(out == nullptr);
-}
 
-WINE_TEST(ClassObject, MakesTheAddinWithItsInterfaces) {
   ComPtr<IClassFactory> factory = Factory();
-  ComPtr<IUnknown> outer;
-  REQUIRE_EQ(factory->QueryInterface(IID_IUnknown, outer.PutVoid()), S_OK);
-  ComPtr<IUnknown> refused;
-  CHECK_EQ(factory->CreateInstance(outer.get(), IID_IUnknown, refused.PutVoid()),
+  ComPtr<IUnknown> outer = factory.As<IUnknown>(IID_IUnknown);
+  ComPtr<IUnknown> addin;
+  CHECK_EQ(factory->CreateInstance(outer.get(), IID_IUnknown, addin.PutVoid()),
            CLASS_E_NOAGGREGATION);
   CHECK_EQ(factory->CreateInstance(nullptr, IID_IUnknown, nullptr), E_POINTER);
-
-  ComPtr<IUnknown> addin;
   REQUIRE_EQ(factory->CreateInstance(nullptr, IID_IUnknown, addin.PutVoid()), S_OK);
-  ComPtr<com::IDTExtensibility2> extensibility;
-  ComPtr<com::IRibbonExtensibility> ribbon;
-  ComPtr<IDispatch> dispatch;
-  CHECK_EQ(addin->QueryInterface(com::IID_IDTExtensibility2, extensibility.PutVoid()), S_OK);
-  CHECK_EQ(addin->QueryInterface(com::IID_IRibbonExtensibility, ribbon.PutVoid()), S_OK);
-  CHECK_EQ(addin->QueryInterface(IID_IDispatch, dispatch.PutVoid()), S_OK);
-  ComPtr<IClassFactory> notThere;
-  CHECK_EQ(addin->QueryInterface(IID_IClassFactory, notThere.PutVoid()), E_NOINTERFACE);
+  CHECK(addin.As<com::IDTExtensibility2>(com::IID_IDTExtensibility2));
+  CHECK(addin.As<IDispatch>(IID_IDispatch));
+  ComPtr<IClassFactory> none;
+  CHECK_EQ(addin->QueryInterface(IID_IClassFactory, none.PutVoid()), E_NOINTERFACE);
   CHECK_EQ(addin->QueryInterface(IID_IUnknown, nullptr), E_POINTER);
-
   // One object: every interface leads back to the same IUnknown.
-  ComPtr<IUnknown> viaRibbon;
+  const auto ribbon = addin.As<com::IRibbonExtensibility>(com::IID_IRibbonExtensibility);
   REQUIRE(ribbon);
-  ribbon->QueryInterface(IID_IUnknown, viaRibbon.PutVoid());
-  CHECK(viaRibbon.get() == addin.get());
+  CHECK(ribbon.As<IUnknown>(IID_IUnknown).get() == addin.get());
 }
 
 WINE_TEST(ClassObject, TheDllUnloadsOnlyWhenNothingIsAlive) {
-  const AddinDll& dll = AddinDll::Get();
-  REQUIRE(dll.Loaded());
   // The earlier tests released everything they made.
-  CHECK_EQ(dll.CanUnloadNow(), S_OK);
-  {
-    ComPtr<IClassFactory> factory = Factory();
-    CHECK_EQ(dll.CanUnloadNow(), S_FALSE);
-    CHECK_EQ(factory->LockServer(TRUE), S_OK);
-    ComPtr<IUnknown> addin;
-    REQUIRE_EQ(factory->CreateInstance(nullptr, IID_IUnknown, addin.PutVoid()), S_OK);
-    factory.Reset();
-    CHECK_EQ(dll.CanUnloadNow(), S_FALSE);
-    addin.Reset();
-    CHECK_EQ(dll.CanUnloadNow(), S_FALSE);  // still locked
-    REQUIRE_EQ(dll.GetClassObject(kAddinClass, IID_IClassFactory, factory.PutVoid()), S_OK);
-    CHECK_EQ(factory->LockServer(FALSE), S_OK);
-  }
-  CHECK_EQ(dll.CanUnloadNow(), S_OK);
+  CHECK_EQ(Dll().CanUnloadNow(), S_OK);
+  ComPtr<IClassFactory> factory = Factory();
+  CHECK_EQ(Dll().CanUnloadNow(), S_FALSE);
+  CHECK_EQ(factory->LockServer(TRUE), S_OK);
+  ComPtr<IUnknown> addin;
+  REQUIRE_EQ(factory->CreateInstance(nullptr, IID_IUnknown, addin.PutVoid()), S_OK);
+  factory.Reset();
+  CHECK_EQ(Dll().CanUnloadNow(), S_FALSE);
+  addin.Reset();
+  CHECK_EQ(Dll().CanUnloadNow(), S_FALSE);  // still locked
+  CHECK_EQ(Factory()->LockServer(FALSE), S_OK);
+  CHECK_EQ(Dll().CanUnloadNow(), S_OK);
 }
 
 }  // namespace qvx::winetest

@@ -11,20 +11,21 @@ namespace {
 
 using scenario::World;
 
+void Start(World& world) {
+  world.addin().OnConnection(world.host().Application(), 1, Object());
+  world.addin().OnStartupComplete();
+}
+
 class Lifecycle : public ::testing::Test {
  protected:
   AddinState& s() { return world.addin().state(); }
   bool ListenerExists() {
     return platform::SocketMessageWindows::WindowExists(companion::kClientWindowCaption);
   }
-  void Start() {
-    world.addin().OnConnection(world.host().Application(), 1, Object());
-    world.addin().OnStartupComplete();
-  }
   World world;
 };
 
-TEST_F(Lifecycle, ConnectionReadsTheSettingsAndPutsNothingOnScreen) {
+TEST_F(Lifecycle, ConnectionReadsTheSettingsAndOnlyTheStartupBuildsTheRest) {
   world.registry().SetString(scenario::kSettingsKey, "DBChoice", "3");
   world.addin().OnConnection(world.host().Application(), 1, Object());
   EXPECT_EQ(s().main.phase, AddinPhase::Connected);
@@ -35,10 +36,8 @@ TEST_F(Lifecycle, ConnectionReadsTheSettingsAndPutsNothingOnScreen) {
   EXPECT_FALSE(ListenerExists());
   EXPECT_TRUE(world.system().Launches().empty());
   EXPECT_EQ(s().main.objExplorersClient, nullptr);
-}
 
-TEST_F(Lifecycle, StartupBuildsEverythingAndOpensTheChannel) {
-  Start();
+  world.addin().OnStartupComplete();
   EXPECT_EQ(s().main.phase, AddinPhase::Started);
   EXPECT_EQ(s().main.strToolName, "Client Tool");
   EXPECT_TRUE(ListenerExists());
@@ -52,7 +51,7 @@ TEST_F(Lifecycle, StartupBuildsEverythingAndOpensTheChannel) {
 }
 
 TEST_F(Lifecycle, TearDownReleasesEverythingAndMayRunAgain) {
-  Start();
+  Start(world);
   for (int round = 0; round < 3; ++round) {
     subKillObjects(s());
     const MainGlobals& m = s().main;
@@ -74,28 +73,23 @@ TEST_F(Lifecycle, TearDownReleasesEverythingAndMayRunAgain) {
 }
 
 TEST_F(Lifecycle, EveryHostShutdownEventTearsDownAndNothingRestarts) {
-  struct Row {
-    const char* event;
-    std::function<void(QVXClientAddin&)> raise;
-  };
-  const Row rows[] = {
+  const std::pair<const char*, void (*)(QVXClientAddin&)> rows[] = {
       {"begin-shutdown", [](QVXClientAddin& a) { a.OnBeginShutdown(); }},
       {"disconnection", [](QVXClientAddin& a) { a.OnDisconnection(0); }},
       {"terminate", [](QVXClientAddin& a) { a.Terminate(); }},
   };
-  for (const Row& row : rows) {
+  for (const auto& [event, raise] : rows) {
     World fresh;
-    fresh.addin().OnConnection(fresh.host().Application(), 1, Object());
-    fresh.addin().OnStartupComplete();
-    row.raise(fresh.addin());
-    EXPECT_EQ(fresh.addin().state().main.phase, AddinPhase::TornDown) << row.event;
+    Start(fresh);
+    raise(fresh.addin());
+    EXPECT_EQ(fresh.addin().state().main.phase, AddinPhase::TornDown) << event;
     // A message for the gone window has nowhere to go.
-    EXPECT_FALSE(fresh.windows().Post(companion::kClientWindowCaption, 0xC001, 1, 0)) << row.event;
+    EXPECT_FALSE(fresh.windows().Post(companion::kClientWindowCaption, 0xC001, 1, 0)) << event;
   }
 }
 
 TEST_F(Lifecycle, ClosingOneOfTwoExplorersKeepsTheAddin) {
-  Start();
+  Start(world);
   world.host().OpenExplorer(world.host().Calendar());
   ASSERT_EQ(world.host().Explorers().size(), 2u);
   subShutDownOutlook(s());
@@ -106,20 +100,17 @@ TEST_F(Lifecycle, ClosingOneOfTwoExplorersKeepsTheAddin) {
 }
 
 // A form that may refuse to unload, as a form with a cancelling unload event does.
-class StubbornForm final : public LoadedForm {
- public:
+struct StubbornForm final : LoadedForm {
   StubbornForm(std::string name, bool refuses, std::vector<std::string>& unloads)
-      : name_(std::move(name)), refuses_(refuses), unloads_(unloads) {}
-  std::string FormName() const override { return name_; }
+      : name(std::move(name)), refuses(refuses), unloads(unloads) {}
+  std::string FormName() const override { return name; }
   bool Unload() noexcept override {
-    unloads_.push_back(name_);
-    return !refuses_;
+    unloads.push_back(name);
+    return !refuses;
   }
-
- private:
-  std::string name_;
-  bool refuses_;
-  std::vector<std::string>& unloads_;
+  std::string name;
+  bool refuses;
+  std::vector<std::string>& unloads;
 };
 
 TEST_F(Lifecycle, AFormThatRefusesToUnloadStopsTheSweepInsteadOfStallingIt) {
@@ -135,7 +126,7 @@ TEST_F(Lifecycle, AFormThatRefusesToUnloadStopsTheSweepInsteadOfStallingIt) {
 }
 
 TEST_F(Lifecycle, ARestartTearsDownFirstAndBuildsOneChannelAgain) {
-  Start();
+  Start(world);
   bool restart = true;
   StartingPoint(s(), restart);
   // The channel is open again, once; the tear-down released the settings
@@ -147,12 +138,6 @@ TEST_F(Lifecycle, ARestartTearsDownFirstAndBuildsOneChannelAgain) {
             std::string::npos);
   EXPECT_NE(world.ui().Forms()[0].controls[1].text.find("Exception Number: 91\r\n"),
             std::string::npos);
-}
-
-TEST(AppVersion, IsTheBuildsThreeNumbers) {
-  EXPECT_EQ(GetAppVersion(), std::to_string(QVX_VERSION_MAJOR) + "." +
-                                 std::to_string(QVX_VERSION_MINOR) + "." +
-                                 std::to_string(QVX_VERSION_PATCH));
 }
 
 }  // namespace

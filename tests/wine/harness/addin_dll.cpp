@@ -4,86 +4,59 @@
 #include "harness/registry_keys.h"
 
 namespace qvx::winetest {
+namespace {
+
+template <class Function>
+Function Export(HMODULE module, const char* name) {
+  auto function = reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(module, name)));
+  REQUIRE(function);
+  return function;
+}
+
+std::wstring ModulePath(HMODULE module) {
+  wchar_t buffer[MAX_PATH * 2] = {};
+  return std::wstring(buffer, GetModuleFileNameW(module, buffer, std::size(buffer)));
+}
+
+AddinDll Load() {
+  const HMODULE module = LoadLibraryW((ProgramFolder() + L"QVXClient.dll").c_str());
+  REQUIRE(module);
+  return {ModulePath(module), Export<AddinDll::Plain>(module, "DllRegisterServer"),
+          Export<AddinDll::Plain>(module, "DllUnregisterServer"),
+          Export<AddinDll::Plain>(module, "DllCanUnloadNow"),
+          Export<AddinDll::ClassObject>(module, "DllGetClassObject")};
+}
+
+}  // namespace
 
 std::wstring ProgramFolder() {
-  wchar_t buffer[MAX_PATH * 2] = {};
-  const DWORD n = GetModuleFileNameW(nullptr, buffer, static_cast<DWORD>(std::size(buffer)));
-  std::wstring path(buffer, n);
+  const std::wstring path = ModulePath(nullptr);
   return path.substr(0, path.find_last_of(L"\\/") + 1);
 }
 
-AddinDll& AddinDll::Get() {
-  static AddinDll dll;
+const AddinDll& Dll() {
+  static const AddinDll dll = Load();
   return dll;
 }
 
-AddinDll::AddinDll() : path_(ProgramFolder() + L"QVXClient.dll") {
-  module_ = LoadLibraryW(path_.c_str());
-  if (!module_) return;
-  // The module's real name, as registration reads it.
-  wchar_t buffer[MAX_PATH * 2] = {};
-  const DWORD n = GetModuleFileNameW(module_, buffer, static_cast<DWORD>(std::size(buffer)));
-  path_.assign(buffer, n);
-  register_ = reinterpret_cast<Plain>(
-      reinterpret_cast<void*>(GetProcAddress(module_, "DllRegisterServer")));
-  unregister_ = reinterpret_cast<Plain>(
-      reinterpret_cast<void*>(GetProcAddress(module_, "DllUnregisterServer")));
-  canUnload_ =
-      reinterpret_cast<Plain>(reinterpret_cast<void*>(GetProcAddress(module_, "DllCanUnloadNow")));
-  classObject_ = reinterpret_cast<ClassObject>(
-      reinterpret_cast<void*>(GetProcAddress(module_, "DllGetClassObject")));
-}
-
-ComPtr<com::IDTExtensibility2> CreateRegisteredAddin(const std::wstring& progId,
-                                                     std::string& failure) {
+ComPtr<com::IDTExtensibility2> CreateRegisteredAddin() {
   const std::wstring classes = L"Software\\Classes\\";
-  const std::optional<std::wstring> clsidText = ReadText(classes + progId + L"\\CLSID", L"");
-  if (!clsidText) {
-    failure = "no CLSID under the ProgID";
-    return {};
-  }
+  const std::optional<std::wstring> clsidText = ReadText(classes + kProgId + L"\\CLSID", L"");
+  REQUIRE(clsidText);
   CLSID clsid{};
-  if (FAILED(CLSIDFromString(clsidText->c_str(), &clsid))) {
-    failure = "the ProgID's CLSID does not parse";
-    return {};
-  }
+  REQUIRE_EQ(CLSIDFromString(clsidText->c_str(), &clsid), NOERROR);
   const std::optional<std::wstring> server =
       ReadText(classes + L"CLSID\\" + *clsidText + L"\\InprocServer32", L"");
-  if (!server) {
-    failure = "no InprocServer32";
-    return {};
-  }
-  HMODULE module = LoadLibraryW(server->c_str());
-  if (!module) {
-    failure = "the registered DLL does not load";
-    return {};
-  }
-  using ClassObject = HRESULT(STDAPICALLTYPE*)(REFCLSID, REFIID, void**);
-  auto getClassObject = reinterpret_cast<ClassObject>(
-      reinterpret_cast<void*>(GetProcAddress(module, "DllGetClassObject")));
+  REQUIRE(server);
   // The module stays loaded for the process, as a host keeps it.
+  const HMODULE module = LoadLibraryW(server->c_str());
+  REQUIRE(module);
   ComPtr<IClassFactory> factory;
-  if (!getClassObject || FAILED(getClassObject(clsid, IID_IClassFactory, factory.PutVoid()))) {
-    failure = "DllGetClassObject failed";
-    return {};
-  }
+  REQUIRE_EQ(Export<AddinDll::ClassObject>(module, "DllGetClassObject")(clsid, IID_IClassFactory,
+                                                                        factory.PutVoid()),
+             S_OK);
   ComPtr<com::IDTExtensibility2> addin;
-  const HRESULT hr = factory->CreateInstance(nullptr, com::IID_IDTExtensibility2, addin.PutVoid());
-  if (FAILED(hr) || !addin) {
-    failure = "CreateInstance failed: " + Describe(hr);
-    return {};
-  }
-  return addin;
-}
-
-ComPtr<com::IDTExtensibility2> RegisterAndCreateAddin() {
-  const AddinDll& dll = AddinDll::Get();
-  REQUIRE(dll.Loaded());
-  REQUIRE_EQ(dll.Register(), S_OK);
-  std::string failure;
-  ComPtr<com::IDTExtensibility2> addin = CreateRegisteredAddin(L"QVX_C.QVXClientDLL", failure);
-  if (!addin) RecordFailure(__FILE__, __LINE__, failure);
-  REQUIRE(addin);
+  REQUIRE_EQ(factory->CreateInstance(nullptr, com::IID_IDTExtensibility2, addin.PutVoid()), S_OK);
   return addin;
 }
 

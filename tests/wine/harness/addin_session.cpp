@@ -2,33 +2,37 @@
 
 #include "harness/check.h"
 #include "harness/companion_journal.h"
+#include "platform/win32/dispatch_face.h"
+#include "sim/fake_object.h"
 
 namespace qvx::winetest {
 
-AddinSession::AddinSession(sim::Outlook::Options options)
-    : host_(std::move(options)), addin_(RegisterAndCreateAddin()) {}
+AddinSession::AddinSession(sim::Outlook::Options options) : world_(std::move(options)) {
+  world_.SetCreateObject([requests = createRequests_](std::string_view progId) {
+    requests->emplace_back(progId);
+    return Object();
+  });
+  application_ = win32::MakeDispatchFace(world_.Application().shared());
+  auto addIn = std::make_shared<sim::FakeObject>("COMAddIn");
+  addIn->ReadOnly("ProgId", Variant("QVX_C.QVXClientDLL"))
+      .ReadOnly("Description", Variant("Quorvix Client for Outlook"))
+      .Property("Connect", Variant(true));
+  addInInst_ = win32::MakeDispatchFace(addIn);
+  REQUIRE_EQ(Dll().Register(), S_OK);
+  addin_ = CreateRegisteredAddin();
+}
 
 AddinSession::~AddinSession() {
   if (addin_ && !shutDown_) {
-    addin_->OnBeginShutdown(custom_.get());
-    addin_->OnDisconnection(com::ext_dm_HostShutdown, custom_.get());
+    addin_->OnBeginShutdown(&custom_);
+    addin_->OnDisconnection(com::ext_dm_HostShutdown, &custom_);
   }
   addin_.Reset();
-}
-
-ComPtr<IDispatch> AddinSession::Dispatch() const {
-  ComPtr<IDispatch> dispatch;
-  if (addin_) addin_->QueryInterface(IID_IDispatch, dispatch.PutVoid());
-  return dispatch;
+  SafeArrayDestroy(custom_);
 }
 
 HRESULT AddinSession::Connect() {
-  return addin_->OnConnection(host_.Application(), com::ext_cm_Startup, host_.AddInInst(),
-                              custom_.get());
-}
-
-HRESULT AddinSession::StartupComplete() {
-  return addin_->OnStartupComplete(custom_.get());
+  return addin_->OnConnection(application_.get(), com::ext_cm_Startup, addInInst_.get(), &custom_);
 }
 
 void AddinSession::Start() {
@@ -38,26 +42,21 @@ void AddinSession::Start() {
 
 HRESULT AddinSession::BeginShutdown() {
   shutDown_ = true;
-  return addin_->OnBeginShutdown(custom_.get());
+  return addin_->OnBeginShutdown(&custom_);
 }
 
 HRESULT AddinSession::Disconnect() {
   shutDown_ = true;
-  return addin_->OnDisconnection(com::ext_dm_HostShutdown, custom_.get());
-}
-
-void AddinSession::Release() {
-  addin_.Reset();
+  return addin_->OnDisconnection(com::ext_dm_HostShutdown, &custom_);
 }
 
 HWND FindClientWindow() {
-  return FindWindowA(nullptr, kClientWindowCaptionA);
+  return FindWindowA(nullptr, "Client Window - Quorvix Client for Outlook");
 }
 
 DWORD PostFromAnotherProcess(const std::wstring& name, int value) {
   std::wstring command =
       L"\"" + ProgramFolder() + L"qvx_post_message.exe\" " + name + L" " + std::to_wstring(value);
-  command.push_back(L'\0');
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   PROCESS_INFORMATION process{};

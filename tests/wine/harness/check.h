@@ -1,15 +1,13 @@
-// A small test harness for the Wine test host, which runs as a Windows
-// console program where GoogleTest is not at hand.
+// A small test harness for the Wine test host, a Windows console program
+// where GoogleTest is not at hand.
 //
 //   WINE_TEST(Registration, WritesTheAddinKey) {
-//     CHECK_EQ(ReadText(key, L"FriendlyName"), L"Quorvix Client for Outlook");
-//     REQUIRE(dll.Loaded());            // ends this test when false
-//     if (!supported) SKIP("why");      // ends it as skipped
+//     REQUIRE(Dll().Register() == S_OK);  // ends this test when false
+//     CHECK_EQ(ReadDword(key, L"LoadBehavior"), std::optional<DWORD>(3));  // records, goes on
 //   }
 //
-// CHECK records a failure and goes on; REQUIRE and SKIP end the test. Tests
-// run in the order of their registration within a file, files in link order.
-// RunAll takes an optional substring filter of "Suite.Name".
+// Tests run in the order of their registration within a file, files in link
+// order. RunAll takes an optional substring filter of "Suite.Name".
 #pragma once
 
 #include <cstdint>
@@ -28,11 +26,8 @@ struct Registrar {
   Registrar(const char* suite, const char* name, TestBody body);
 };
 
-// Thrown by REQUIRE and SKIP to end the running test.
+// Thrown by REQUIRE to end the running test.
 struct TestAbort {};
-struct TestSkip {
-  std::string reason;
-};
 
 void RecordFailure(const char* file, int line, const std::string& message);
 // A remark printed under the running test (findings, not failures).
@@ -42,23 +37,9 @@ void ListAll();
 
 std::string Describe(std::string_view text);
 std::string Describe(std::wstring_view text);
-inline std::string Describe(const std::string& text) {
-  return Describe(std::string_view(text));
-}
-inline std::string Describe(const std::wstring& text) {
-  return Describe(std::wstring_view(text));
-}
-inline std::string Describe(const char* text) {
-  return Describe(std::string_view(text));
-}
-inline std::string Describe(const wchar_t* text) {
-  return Describe(std::wstring_view(text));
-}
-inline std::string Describe(bool value) {
-  return value ? "true" : "false";
-}
 template <class T>
 requires std::is_integral_v<T> || std::is_enum_v<T> std::string Describe(T value) {
+  if constexpr (std::is_same_v<T, bool>) return value ? "true" : "false";
   std::ostringstream out;
   const auto number = static_cast<int64_t>(value);
   out << number;
@@ -69,13 +50,6 @@ requires std::is_integral_v<T> || std::is_enum_v<T> std::string Describe(T value
   }
   return out.str();
 }
-template <class T>
-std::string Describe(const T* pointer) {
-  std::ostringstream out;
-  out << static_cast<const void*>(pointer);
-  return out.str();
-}
-
 template <class T>
 std::string Describe(const std::optional<T>& value) {
   return value ? Describe(*value) : std::string("(none)");
@@ -111,20 +85,12 @@ bool CheckEqual(const char* file, int line, const char* aText, const char* bText
 #define CHECK_EQ(actual, expected) \
   ::qvx::winetest::CheckEqual(__FILE__, __LINE__, #actual, #expected, (actual), (expected))
 
-#define REQUIRE(condition)                                            \
-  do {                                                                \
-    if (!(condition)) {                                               \
-      ::qvx::winetest::RecordFailure(__FILE__, __LINE__, #condition); \
-      throw ::qvx::winetest::TestAbort{};                             \
-    }                                                                 \
+#define REQUIRE(condition)                                     \
+  do {                                                         \
+    if (!CHECK(condition)) throw ::qvx::winetest::TestAbort{}; \
   } while (false)
 
 #define REQUIRE_EQ(actual, expected)                                     \
   do {                                                                   \
     if (!CHECK_EQ(actual, expected)) throw ::qvx::winetest::TestAbort{}; \
   } while (false)
-
-#define SKIP(reason)                \
-  throw ::qvx::winetest::TestSkip { \
-    reason                          \
-  }

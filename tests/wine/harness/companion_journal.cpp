@@ -1,12 +1,10 @@
 #include "harness/companion_journal.h"
 
-#include <windows.h>
-
 #include <tlhelp32.h>
 
 #include <algorithm>
-#include <cstdint>
-#include <cwctype>
+#include <fstream>
+#include <iterator>
 #include <sstream>
 
 #include "harness/check.h"
@@ -15,50 +13,33 @@ namespace qvx::winetest {
 namespace {
 
 std::wstring JournalPath() {
-  wchar_t buffer[MAX_PATH * 2] = {};
-  const DWORD n = GetEnvironmentVariableW(kJournalVariable, buffer, std::size(buffer));
-  return std::wstring(buffer, n < std::size(buffer) ? n : 0);
-}
-
-bool SameName(const wchar_t* a, const wchar_t* b) {
-  for (; *a && *b; ++a, ++b) {
-    if (std::towlower(*a) != std::towlower(*b)) return false;
-  }
-  return *a == *b;
+  wchar_t folder[MAX_PATH + 1] = {};
+  GetTempPathW(MAX_PATH, folder);
+  return std::wstring(folder) + L"qvx-wine-journal-" + std::to_wstring(GetCurrentProcessId()) +
+         L".txt";
 }
 
 int RunningStandIns() {
   HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
-  if (snapshot == INVALID_HANDLE_VALUE) return -1;
+  REQUIRE(snapshot != INVALID_HANDLE_VALUE);
   PROCESSENTRY32W entry{};
   entry.dwSize = sizeof(entry);
   int count = 0;
   for (BOOL more = Process32FirstW(snapshot, &entry); more;
        more = Process32NextW(snapshot, &entry)) {
-    if (SameName(entry.szExeFile, kStandInName)) ++count;
+    if (_wcsicmp(entry.szExeFile, L"QuorvixClient.exe") == 0) ++count;
   }
   CloseHandle(snapshot);
   return count;
 }
 
-// "" for a file that is not there (no companion started).
-std::string ReadWholeFile(const std::wstring& path) {
-  HANDLE file = CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (file == INVALID_HANDLE_VALUE) return {};
-  std::string text;
-  char buffer[4096];
-  DWORD got = 0;
-  while (ReadFile(file, buffer, sizeof(buffer), &got, nullptr) && got > 0) text.append(buffer, got);
-  CloseHandle(file);
-  return text;
+// "" while no companion has started.
+std::string ReadJournal() {
+  std::ifstream file(JournalPath().c_str(), std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
 }  // namespace
-
-unsigned long TickNow() {
-  return GetTickCount();
-}
 
 void PumpOnce() {
   MSG msg;
@@ -70,45 +51,33 @@ void PumpOnce() {
 }
 
 void SetUpJournal() {
-  wchar_t folder[MAX_PATH + 1] = {};
-  GetTempPathW(MAX_PATH, folder);
-  const std::wstring path = std::wstring(folder) + L"qvx-wine-journal-" +
-                            std::to_wstring(GetCurrentProcessId()) + L".txt";
-  SetEnvironmentVariableW(kJournalVariable, path.c_str());
+  SetEnvironmentVariableW(L"QVX_COMPANION_JOURNAL", JournalPath().c_str());
 }
 
 void ClearJournal() {
-  const std::wstring path = JournalPath();
-  REQUIRE(!path.empty());
-  DeleteFileW(path.c_str());
+  DeleteFileW(JournalPath().c_str());
 }
 
 size_t JournalLines() {
-  const std::string text = ReadWholeFile(JournalPath());
+  const std::string text = ReadJournal();
   return static_cast<size_t>(std::count(text.begin(), text.end(), '\n'));
 }
 
 std::vector<std::string> FinishedLaunches() {
-  const bool ended = PumpUntil([] { return RunningStandIns() == 0; }, 30000);
-  if (!ended) RecordFailure(__FILE__, __LINE__, "the companion stand-ins did not end");
-  REQUIRE(ended);
-  struct Launch {
-    uint64_t created;
-    std::string argument;
-  };
-  std::vector<Launch> launches;
-  std::istringstream file(ReadWholeFile(JournalPath()));
+  REQUIRE(PumpUntil([] { return RunningStandIns() == 0; }, 30000));
+  std::vector<std::pair<uint64_t, std::string>> launches;  // creation time, argument
+  std::istringstream journal(ReadJournal());
   std::string line;
-  while (std::getline(file, line)) {
+  while (std::getline(journal, line)) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
     const size_t tab = line.find('\t');
-    if (tab == std::string::npos) continue;
-    launches.push_back({std::stoull(line.substr(0, tab)), line.substr(tab + 1)});
+    if (tab != std::string::npos)
+      launches.emplace_back(std::stoull(line.substr(0, tab)), line.substr(tab + 1));
   }
   std::stable_sort(launches.begin(), launches.end(),
-                   [](const Launch& a, const Launch& b) { return a.created < b.created; });
+                   [](const auto& a, const auto& b) { return a.first < b.first; });
   std::vector<std::string> arguments;
-  for (const Launch& launch : launches) arguments.push_back(launch.argument);
+  for (auto& launch : launches) arguments.push_back(std::move(launch.second));
   return arguments;
 }
 

@@ -8,13 +8,12 @@
 // the order of the launches.
 #pragma once
 
+#include <windows.h>
+
 #include <string>
 #include <vector>
 
 namespace qvx::winetest {
-
-inline constexpr wchar_t kJournalVariable[] = L"QVX_COMPANION_JOURNAL";
-inline constexpr wchar_t kStandInName[] = L"QuorvixClient.exe";
 
 // Points the variable at a journal in the temporary folder.
 void SetUpJournal();
@@ -27,20 +26,15 @@ std::vector<std::string> FinishedLaunches();
 // The number of lines in the journal so far.
 size_t JournalLines();
 
-// Lets this thread's pending messages through until `done` or the limit;
-// returns whether `done` became true.
-template <class Done>
-bool PumpUntil(Done&& done, unsigned limitMs = 20000);
+// Lets this thread's pending messages through.
 void PumpOnce();
-unsigned long TickNow();
-
+// Pumps until `done` or the limit; returns whether `done` became true.
 template <class Done>
-bool PumpUntil(Done&& done, unsigned limitMs) {
-  const unsigned long start = TickNow();
-  for (;;) {
+bool PumpUntil(Done&& done, DWORD limitMs = 20000) {
+  for (const DWORD start = GetTickCount();;) {
     PumpOnce();
     if (done()) return true;
-    if (TickNow() - start > limitMs) return false;
+    if (GetTickCount() - start > limitMs) return false;
   }
 }
 

@@ -1,6 +1,9 @@
 #include "harness/ui_watcher.h"
 
 #include <algorithm>
+#include <atomic>
+#include <mutex>
+#include <thread>
 #include <utility>
 
 namespace qvx::winetest {
@@ -15,15 +18,11 @@ std::wstring ClassOf(HWND hwnd) {
 // WM_GETTEXT across threads, without waiting forever on a busy window.
 std::wstring TextOf(HWND hwnd) {
   DWORD_PTR length = 0;
-  if (!SendMessageTimeoutW(hwnd, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, 2000, &length)) {
-    return {};
-  }
+  SendMessageTimeoutW(hwnd, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, 2000, &length);
   std::wstring text(static_cast<size_t>(length) + 1, L'\0');
   DWORD_PTR got = 0;
-  if (!SendMessageTimeoutW(hwnd, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
-                           SMTO_ABORTIFHUNG, 2000, &got)) {
-    return {};
-  }
+  SendMessageTimeoutW(hwnd, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
+                      SMTO_ABORTIFHUNG, 2000, &got);
   text.resize(static_cast<size_t>(got));
   return text;
 }
@@ -36,92 +35,88 @@ struct Children {
 BOOL CALLBACK CollectChild(HWND child, LPARAM data) {
   auto* children = reinterpret_cast<Children*>(data);
   const std::wstring cls = ClassOf(child);
-  if (_wcsicmp(cls.c_str(), L"Static") == 0) {
-    if (std::wstring text = TextOf(child); !text.empty()) children->dialog->labels.push_back(text);
-  } else if (_wcsicmp(cls.c_str(), L"Edit") == 0) {
-    children->dialog->edits.push_back(TextOf(child));
-  } else if (_wcsicmp(cls.c_str(), L"Button") == 0) {
+  if (_wcsicmp(cls.c_str(), L"Static") == 0 || _wcsicmp(cls.c_str(), L"Edit") == 0) {
+    children->dialog->texts.push_back(TextOf(child));
+  } else if (_wcsicmp(cls.c_str(), L"Button") == 0 && !children->firstStandardButton) {
     // Message boxes use the standard ids (IDOK ... IDCONTINUE); forms use their own.
     const int id = GetDlgCtrlID(child);
-    if (id >= IDOK && id <= IDCONTINUE && !children->firstStandardButton) {
-      children->firstStandardButton = child;
-    }
+    if (id >= IDOK && id <= IDCONTINUE) children->firstStandardButton = child;
   }
   return TRUE;
 }
 
-struct TopLevel {
-  DWORD process;
-  std::vector<HWND> dialogs;
-};
-
-BOOL CALLBACK CollectTopLevel(HWND hwnd, LPARAM data) {
-  auto* top = reinterpret_cast<TopLevel*>(data);
+BOOL CALLBACK CollectDialog(HWND hwnd, LPARAM data) {
   DWORD process = 0;
   GetWindowThreadProcessId(hwnd, &process);
-  if (process == top->process && IsWindowVisible(hwnd) && ClassOf(hwnd) == L"#32770") {
-    top->dialogs.push_back(hwnd);
+  if (process == GetCurrentProcessId() && IsWindowVisible(hwnd) && ClassOf(hwnd) == L"#32770") {
+    reinterpret_cast<std::vector<HWND>*>(data)->push_back(hwnd);
   }
   return TRUE;
 }
 
-}  // namespace
-
-bool SeenDialog::Shows(const std::wstring& text) const {
-  const auto has = [&](const std::wstring& s) { return s.find(text) != std::wstring::npos; };
-  return std::any_of(labels.begin(), labels.end(), has) ||
-         std::any_of(edits.begin(), edits.end(), has);
-}
-
-UiWatcher& Watcher() {
-  static UiWatcher watcher;
-  return watcher;
-}
-
-UiWatcher::UiWatcher() : thread_([this] { Run(); }) {}
-
-UiWatcher::~UiWatcher() {
-  stop_ = true;
-  if (thread_.joinable()) thread_.join();
-}
-
-std::vector<SeenDialog> UiWatcher::Take() {
-  std::lock_guard<std::mutex> lock(mutex_);
-  return std::exchange(seen_, {});
-}
-
-void UiWatcher::Run() {
-  while (!stop_) {
-    Scan();
-    Sleep(30);
+// The watcher's thread and what it has seen, for the life of the program.
+struct WatcherState {
+  std::atomic<bool> stop{false};
+  std::mutex mutex;
+  std::vector<SeenDialog> seen;
+  std::vector<HWND> handled;
+  std::thread thread{[this] {
+    for (; !stop; Sleep(30)) Scan();
+  }};
+  ~WatcherState() {
+    stop = true;
+    thread.join();
   }
+  void Scan();
+};
+
+WatcherState& State() {
+  static WatcherState state;
+  return state;
 }
 
-void UiWatcher::Scan() {
-  TopLevel top{process_, {}};
-  EnumWindows(CollectTopLevel, reinterpret_cast<LPARAM>(&top));
+void WatcherState::Scan() {
+  std::vector<HWND> dialogs;
+  EnumWindows(CollectDialog, reinterpret_cast<LPARAM>(&dialogs));
   // Forget windows that are gone, so that a reused handle counts as new.
-  std::erase_if(handled_, [](HWND h) { return !IsWindow(h); });
-  for (HWND hwnd : top.dialogs) {
-    if (std::find(handled_.begin(), handled_.end(), hwnd) != handled_.end()) continue;
-    handled_.push_back(hwnd);
+  std::erase_if(handled, [](HWND h) { return !IsWindow(h); });
+  for (HWND hwnd : dialogs) {
+    if (std::find(handled.begin(), handled.end(), hwnd) != handled.end()) continue;
+    handled.push_back(hwnd);
     SeenDialog dialog;
     dialog.caption = TextOf(hwnd);
     Children children{&dialog};
     EnumChildWindows(hwnd, CollectChild, reinterpret_cast<LPARAM>(&children));
     dialog.messageBox = children.firstStandardButton != nullptr;
     {
-      std::lock_guard<std::mutex> lock(mutex_);
-      seen_.push_back(dialog);
+      std::lock_guard<std::mutex> lock(mutex);
+      seen.push_back(dialog);
     }
-    if (children.firstStandardButton) {
-      PostMessageW(hwnd, WM_COMMAND,
-                   MAKEWPARAM(GetDlgCtrlID(children.firstStandardButton), BN_CLICKED),
-                   reinterpret_cast<LPARAM>(children.firstStandardButton));
+    if (HWND button = children.firstStandardButton) {
+      PostMessageW(hwnd, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(button), BN_CLICKED),
+                   reinterpret_cast<LPARAM>(button));
     } else {
       PostMessageW(hwnd, WM_CLOSE, 0, 0);
     }
   }
+}
+
+}  // namespace
+
+bool SeenDialog::Shows(const std::wstring& part) const {
+  return std::any_of(texts.begin(), texts.end(),
+                     [&](const std::wstring& s) { return s.find(part) != std::wstring::npos; });
+}
+
+UiWatcher& Watcher() {
+  State();
+  static UiWatcher watcher;
+  return watcher;
+}
+
+std::vector<SeenDialog> UiWatcher::Take() {
+  std::lock_guard<std::mutex> lock(State().mutex);
+  return std::exchange(State().seen, {});
 }
 
 }  // namespace qvx::winetest

@@ -11,47 +11,27 @@
 
 #include <windows.h>
 
-#include <atomic>
-#include <mutex>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace qvx::winetest {
 
 struct SeenDialog {
   std::wstring caption;
-  std::vector<std::wstring> labels;  // static texts
-  std::vector<std::wstring> edits;   // edit control texts
+  std::vector<std::wstring> texts;  // of its static and edit controls
   bool messageBox = false;
 
-  // True if any label or edit contains `text`.
-  bool Shows(const std::wstring& text) const;
+  // True if any text contains `part`.
+  bool Shows(const std::wstring& part) const;
 };
 
 class UiWatcher {
  public:
-  UiWatcher();
-  ~UiWatcher();
-  UiWatcher(const UiWatcher&) = delete;
-  UiWatcher& operator=(const UiWatcher&) = delete;
-
   // The dialogs seen since the last call.
   std::vector<SeenDialog> Take();
-
- private:
-  void Run();
-  void Scan();
-
-  DWORD process_ = GetCurrentProcessId();
-  std::atomic<bool> stop_{false};
-  std::mutex mutex_;
-  std::vector<SeenDialog> seen_;
-  std::vector<HWND> handled_;
-  std::thread thread_;
 };
 
-// The one watcher of the test program.
+// The one watcher of the test program, started by the first call.
 UiWatcher& Watcher();
 
 }  // namespace qvx::winetest
