@@ -1,5 +1,5 @@
 // A whole add-in state for the settings tests: the file registry on a
-// temporary file, a user interface that records boxes and the forms shown
+// temporary file, a user interface that records the forms shown
 // (the error report's "txtReport" text), a fixed clock, and an inert host in
 // objOutlook so that the central reporter needs no Outlook.
 #pragma once
@@ -22,25 +22,13 @@ inline constexpr const char* kQvxKey = "Software\\Zenbrook\\QVX";
 
 class RecordingUi final : public platform::UserInterface {
  public:
-  struct Box {
-    std::string text;
-    int style;
-    std::string title;
-  };
-  int MessageBox(std::string_view text, int style, std::string_view title) override {
-    boxes.push_back(Box{std::string(text), style, std::string(title)});
-    return platform::msgbox::kOk;
-  }
+  int MessageBox(std::string_view, int, std::string_view) override { return platform::msgbox::kOk; }
   void ShowModal(platform::FormModel& form) override {
     const platform::FormControl* report = form.Find("txtReport");
     reports.push_back(report != nullptr ? report->text : std::string());
   }
-  std::vector<Box> boxes;
   std::vector<std::string> reports;  // txtReport of each form shown
 };
-
-using FixedSystem = sim::InertSystem;
-using sim::NoObjects;
 
 // Answers every member with 438, like a host that has none.
 class InertHost final : public HostObject {
@@ -86,8 +74,8 @@ struct SettingsFixture {
   TempFolder folder;
   platform::FileRegistry registry;
   RecordingUi ui;
-  FixedSystem system;
-  NoObjects objects;
+  sim::InertSystem system;
+  sim::NoObjects objects;
   AddinState s;
 };
 
