@@ -17,66 +17,42 @@ int32_t FailureNumber(auto&& f) {
 }
 
 TEST(VariantToInteger, RoundsHalfToEvenAndChecksRange) {
-  struct Row {
-    Variant in;
-    int16_t out;
+  const std::pair<Variant, int16_t> rows[] = {
+      {Variant(2.5), 2},         {Variant(3.5), 4},
+      {Variant(-2.5), -2},       {Variant("1.5"), 2},
+      {Variant(" 7 "), 7},       {Variant("&HFFFF"), -1},
+      {Variant(true), -1},       {Variant(), 0},
+      {Variant("32767"), 32767}, {Variant(int32_t{-32768}), -32768},
   };
-  const Row rows[] = {
-      {Variant(2.5), 2},
-      {Variant(3.5), 4},
-      {Variant(-2.5), -2},
-      {Variant(-3.5), -4},
-      {Variant("12"), 12},
-      {Variant(" 7 "), 7},
-      {Variant("&HFFFF"), -1},
-      {Variant(true), -1},
-      {Variant(false), 0},
-      {Variant(), 0},
-      {Variant("1.5"), 2},
-      {Variant("32767"), 32767},
-      {Variant(int32_t{-32768}), -32768},
-  };
-  for (const Row& row : rows) EXPECT_EQ(row.in.ToInteger(), row.out) << row.in.ToText();
-}
-
-TEST(VariantToInteger, FailsWithTheRuntimeNumbers) {
+  for (const auto& [in, out] : rows) EXPECT_EQ(in.ToInteger(), out) << in.ToText();
   EXPECT_EQ(FailureNumber([] { Variant("32768").ToInteger(); }), err::kOverflow);
   EXPECT_EQ(FailureNumber([] { Variant(int32_t{-32769}).ToInteger(); }), err::kOverflow);
+  EXPECT_EQ(FailureNumber([] { Variant(2147483648.0).ToLong(); }), err::kOverflow);
   EXPECT_EQ(FailureNumber([] { Variant("x").ToInteger(); }), err::kTypeMismatch);
   EXPECT_EQ(FailureNumber([] { Variant("").ToInteger(); }), err::kTypeMismatch);
-  EXPECT_EQ(FailureNumber([] { Variant("1e").ToInteger(); }), err::kTypeMismatch);
-  EXPECT_EQ(FailureNumber([] { Variant::Null().ToInteger(); }), err::kInvalidUseOfNull);
   EXPECT_EQ(FailureNumber([] { Variant("inf").ToLong(); }), err::kTypeMismatch);
-  EXPECT_EQ(FailureNumber([] { Variant(2147483648.0).ToLong(); }), err::kOverflow);
+  EXPECT_EQ(FailureNumber([] { Variant::Null().ToInteger(); }), err::kInvalidUseOfNull);
 }
 
 TEST(VariantToText, FollowsTheRuntime) {
   EXPECT_EQ(Variant(true).ToText(), "True");
-  EXPECT_EQ(Variant(int16_t{-1}).ToText(), "-1");
-  EXPECT_EQ(Variant(1.5).ToText(), "1.5");
   EXPECT_EQ(Variant(0.1 + 0.2).ToText(), "0.3");
   EXPECT_EQ(Variant(1e20).ToText(), "1E+20");
   EXPECT_EQ(Variant(Currency{12345}).ToText(), "1.2345");
-  EXPECT_EQ(Variant(Currency{-10000}).ToText(), "-1");
   EXPECT_EQ(Variant().ToText(), "");
 }
 
-TEST(VariantTests, NumericAndDate) {
+TEST(VariantTests, NumericDateAndBoolean) {
   EXPECT_TRUE(Variant().IsNumeric());
   EXPECT_TRUE(Variant(" -1.5e3 ").IsNumeric());
   EXPECT_FALSE(Variant("1,5").IsNumeric());
   EXPECT_FALSE(Variant("nan").IsNumeric());
   EXPECT_FALSE(Variant::Null().IsNumeric());
   EXPECT_TRUE(Variant("1/2/2026").IsDate());
-  EXPECT_TRUE(Variant("2026-02-30").IsDate() == false);
+  EXPECT_FALSE(Variant("2026-02-30").IsDate());
   EXPECT_FALSE(Variant("12").IsDate());
-}
-
-TEST(VariantToBoolean, AcceptsNumbersAndWords) {
   EXPECT_TRUE(Variant("true").ToBoolean());
-  EXPECT_FALSE(Variant("False").ToBoolean());
   EXPECT_TRUE(Variant("-1").ToBoolean());
-  EXPECT_FALSE(Variant(int16_t{0}).ToBoolean());
   EXPECT_EQ(FailureNumber([] { Variant("yes").ToBoolean(); }), err::kTypeMismatch);
 }
 

@@ -29,14 +29,10 @@ class MailTestItem {
     });
   }
 
-  // Adds or replaces a property and its value.
+  // Adds or replaces a property; its Value is read only.
   MailTestItem& Set(const std::string& name, Variant value) {
     auto property = std::make_shared<platform::NativeObject>("UserProperty");
-    auto held = std::make_shared<Variant>(std::move(value));
-    property->Define("Value", [held](InvokeKind kind, std::vector<Variant>& args) {
-      if (kind == InvokeKind::Put) *held = args.back();
-      return *held;
-    });
+    property->Define("Value", [value](InvokeKind, std::vector<Variant>&) { return value; });
     properties_[FoldCase(name)] = Object(property);
     return *this;
   }

@@ -8,6 +8,8 @@
 namespace qvx {
 namespace {
 
+using Getter = std::string (*)(AddinState&);
+
 TEST(DefaultValues, ProjectAndActivityFollowTheirOneSwitch) {
   for (int16_t enabled : {int16_t{0}, int16_t{1}, int16_t{-1}}) {
     testing::TestAddin t;
@@ -20,58 +22,38 @@ TEST(DefaultValues, ProjectAndActivityFollowTheirOneSwitch) {
 }
 
 TEST(DefaultValues, ACustomListNeedsToBeActiveAndSwitchedOn) {
-  using Getter = std::string (*)(AddinState&);
+  using S = cMySettings;
   struct Field {
     Getter get;
-    int16_t cMySettings::*active;
-    int16_t cMySettings::*enabled;
-    std::string cMySettings::*value;
+    int16_t S::*active;
+    int16_t S::*enabled;
+    std::string S::*value;
   };
   const Field fields[] = {
-      {GetDefaultField1Value, &cMySettings::CustomList1Active,
-       &cMySettings::EnableDefaultValueForCustomField1, &cMySettings::DefaultValueCustomField1},
-      {GetDefaultField2Value, &cMySettings::CustomList2Active,
-       &cMySettings::EnableDefaultValueForCustomField2, &cMySettings::DefaultValueCustomField2},
-      {GetDefaultField3Value, &cMySettings::CustomList3Active,
-       &cMySettings::EnableDefaultValueForCustomField3, &cMySettings::DefaultValueCustomField3},
-      {GetDefaultField4Value, &cMySettings::CustomList4Active,
-       &cMySettings::EnableDefaultValueForCustomField4, &cMySettings::DefaultValueCustomField4},
+      {GetDefaultField1Value, &S::CustomList1Active, &S::EnableDefaultValueForCustomField1,
+       &S::DefaultValueCustomField1},
+      {GetDefaultField2Value, &S::CustomList2Active, &S::EnableDefaultValueForCustomField2,
+       &S::DefaultValueCustomField2},
+      {GetDefaultField3Value, &S::CustomList3Active, &S::EnableDefaultValueForCustomField3,
+       &S::DefaultValueCustomField3},
+      {GetDefaultField4Value, &S::CustomList4Active, &S::EnableDefaultValueForCustomField4,
+       &S::DefaultValueCustomField4},
   };
-  struct Case {
-    int16_t active;
-    int16_t enabled;
-    bool gives;
-  };
-  const Case cases[] = {{0, 0, false}, {1, 0, false}, {0, 1, false}, {1, 1, true},
-                        {-1, 1, true}, {1, -1, true}, {-1, -1, true}};
-  int n = 0;
+  const std::tuple<int16_t, int16_t, bool> cases[] = {
+      {0, 1, false}, {1, 0, false}, {1, -1, true}, {-1, 1, true}};
   for (const Field& field : fields) {
-    ++n;
-    for (const Case& c : cases) {
+    for (const auto& [active, enabled, gives] : cases) {
       testing::TestAddin t;
-      t.settings().*field.active = c.active;
-      t.settings().*field.enabled = c.enabled;
-      t.settings().*field.value = "Value " + std::to_string(n);
-      EXPECT_EQ(field.get(t.s), c.gives ? "Value " + std::to_string(n) : "")
-          << "field " << n << " active " << c.active << " enabled " << c.enabled;
+      t.settings().*field.active = active;
+      t.settings().*field.enabled = enabled;
+      t.settings().*field.value = "V";
+      EXPECT_EQ(field.get(t.s), gives ? "V" : "")
+          << "field " << (&field - fields + 1) << " active " << active << " enabled " << enabled;
     }
   }
 }
 
-TEST(DefaultValues, OneFieldsSwitchesDoNotOpenAnother) {
-  testing::TestAddin t;
-  t.settings().CustomList1Active = 1;
-  t.settings().EnableDefaultValueForCustomField1 = 1;
-  t.settings().DefaultValueCustomField1 = "one";
-  t.settings().DefaultValueCustomField2 = "two";
-  t.settings().DefaultValueForProject = "p";
-  EXPECT_EQ(GetDefaultField1Value(t.s), "one");
-  EXPECT_EQ(GetDefaultField2Value(t.s), "");
-  EXPECT_EQ(GetDefaultProjectValue(t.s), "");
-}
-
 TEST(DefaultValues, WithoutASettingsRecordEachReportsUnderItsNameAndIsEmpty) {
-  using Getter = std::string (*)(AddinState&);
   const std::pair<Getter, const char*> getters[] = {
       {GetDefaultProjectValue, "GetDefaultProjectValue"},
       {GetDefaultActivityValue, "GetDefaultActivityValue"},
