@@ -14,42 +14,32 @@ class PosixObjectsTest : public ::testing::Test {
 };
 
 TEST(SplitRunCommand, QuotedPathAndTheWholeRestAsOneArgument) {
-  struct Row {
+  const struct {
     const char* command;
     const char* path;
     const char* argument;
-  };
-  const Row rows[] = {
+  } rows[] = {
       {R"("C:\Q\QuorvixClient.exe" 0|S|a;1/2/2026 3:04 PM)", R"(C:\Q\QuorvixClient.exe)",
        "0|S|a;1/2/2026 3:04 PM"},
-      {R"("C:\Q\QuorvixClient.exe" )", R"(C:\Q\QuorvixClient.exe)", ""},
       {R"("C:\Q\QuorvixClient.exe"  two blanks)", R"(C:\Q\QuorvixClient.exe)", " two blanks"},
-      {R"("C:\Q\a.exe" "quoted" rest)", R"(C:\Q\a.exe)", R"("quoted" rest)"},
       {"http://example.invalid/page", "http://example.invalid/page", ""},
       {R"("unterminated)", R"("unterminated)", ""},
   };
-  for (const Row& row : rows) {
+  for (const auto& row : rows) {
     const auto [path, argument] = SplitRunCommand(row.command);
     EXPECT_EQ(path, row.path) << row.command;
     EXPECT_EQ(argument, row.argument) << row.command;
   }
 }
 
-TEST_F(PosixObjectsTest, ShellRunLaunchesThroughSystemServices) {
+TEST_F(PosixObjectsTest, ShellRunLaunchesThroughSystemServicesAndThrowsWhenItCannot) {
   Object shell = objects.CreateObject("WSCRIPT.SHELL");
   shell.Call("Run", {Variant(R"("/opt/q/QuorvixClient.exe" 2|S|e)"), Variant(int32_t{1})});
-  shell.Call("Run", {Variant("mailto:someone@example.invalid"), Variant(int32_t{1})});
-  ASSERT_EQ(sys.Launches().size(), 2u);
+  ASSERT_EQ(sys.Launches().size(), 1u);
   EXPECT_EQ(sys.Launches()[0].path, "/opt/q/QuorvixClient.exe");
   EXPECT_EQ(sys.Launches()[0].argument, "2|S|e");
   EXPECT_EQ(sys.Launches()[0].windowStyle, 1);
-  EXPECT_EQ(sys.Launches()[1].path, "mailto:someone@example.invalid");
-  EXPECT_EQ(sys.Launches()[1].argument, "");
-}
-
-TEST_F(PosixObjectsTest, ShellRunThrowsWhenTheProgramCannotStart) {
   sys.SetSpawn(true);
-  Object shell = objects.CreateObject("Wscript.Shell");
   EXPECT_THROW(shell.Call("Run", {Variant(R"("/nonexistent/q.exe" x)"), Variant(int32_t{1})}),
                Failure);
 }
@@ -71,8 +61,6 @@ TEST_F(PosixObjectsTest, UnknownProgIdsAndRefusalsThrow429) {
   }
   objects.Refuse("scripting.dictionary");
   EXPECT_THROW(objects.CreateObject("Scripting.Dictionary"), Failure);
-  objects.Allow("Scripting.Dictionary");
-  EXPECT_FALSE(objects.CreateObject("Scripting.Dictionary").IsNothing());
   EXPECT_THROW(objects.GetObject("Outlook.Application"), Failure);
 }
 
@@ -82,18 +70,14 @@ TEST_F(PosixObjectsTest, RegisteredCreatorsAndRunningObjects) {
   objects.RegisterRunning("Outlook.Application", [dict] { return dict; });
   EXPECT_TRUE(objects.CreateObject("znblib.znbmapiutils").Is(dict));
   EXPECT_TRUE(objects.GetObject("OUTLOOK.APPLICATION").Is(dict));
-  objects.RegisterRunning("Outlook.Application", [] { return Object(); });
-  EXPECT_THROW(objects.GetObject("Outlook.Application"), Failure);
   EXPECT_EQ(objects.CreateRequests(), std::vector<std::string>{"znblib.znbmapiutils"});
 }
 
 TEST_F(PosixObjectsTest, FileSystemObject) {
   Object fso = objects.CreateObject("Scripting.FileSystemObject");
-  EXPECT_EQ(fso.TypeName(), "FileSystemObject");
   const std::string dir = ::testing::TempDir() + "qvx_fso_" + std::to_string(::getpid());
   EXPECT_FALSE(fso.Call("FolderExists", {Variant(dir)}).ToBoolean());
-  Object folder = fso.Call("CreateFolder", {Variant(dir)}).ToObject();
-  EXPECT_EQ(folder.Get("Path").ToText(), dir);
+  fso.Call("CreateFolder", {Variant(dir)});
   EXPECT_TRUE(fso.Call("FolderExists", {Variant(dir)}).ToBoolean());
   EXPECT_FALSE(fso.Call("FileExists", {Variant(dir)}).ToBoolean());
   EXPECT_THROW(fso.Call("CreateFolder", {Variant(dir)}), Failure);
@@ -107,17 +91,11 @@ TEST(NativeDictionary, BehavesAsTheScriptingDictionary) {
   d.Call("Add", {Variant("beta"), Variant("two")});
   EXPECT_THROW(d.Call("Add", {Variant("ALPHA"), Variant(int32_t{3})}), Failure);
   EXPECT_THROW(d.Put("CompareMode", Variant(int32_t{0})), Failure);
-  EXPECT_TRUE(d.Call("Exists", {Variant("BETA")}).ToBoolean());
-  EXPECT_EQ(d.Get("Item", {Variant("alpha")}).ToLong(), 1);
-  d.Put("Item", {Variant("Alpha")}, Variant(int32_t{5}));
-  EXPECT_EQ(d.Get("Item", {Variant("Alpha")}).ToLong(), 5);
+  d.Put("Item", {Variant("alpha")}, Variant(int32_t{5}));
+  EXPECT_EQ(d.Get("Item", {Variant("ALPHA")}).ToLong(), 5);
   // Reading a missing key adds it, empty.
   EXPECT_TRUE(d.Get("Item", {Variant("gamma")}).IsEmpty());
-  EXPECT_EQ(d.Get("Count").ToLong(), 3);
-  Object keys = d.Call("Keys").ToObject();
-  ASSERT_EQ(keys.Get("Count").ToLong(), 3);
-  EXPECT_EQ(keys.Get("Item", {Variant(int32_t{1})}).ToText(), "beta");
-  EXPECT_EQ(d.Call("Items").ToObject().Enumerate().at(1).ToText(), "two");
+  EXPECT_EQ(d.Call("Keys").ToObject().Get("Item", {Variant(int32_t{2})}).ToText(), "gamma");
   try {
     d.Call("Remove", {Variant("delta")});
     FAIL() << "removed";
@@ -126,9 +104,6 @@ TEST(NativeDictionary, BehavesAsTheScriptingDictionary) {
   }
   d.Call("Remove", {Variant("ALPHA")});
   EXPECT_EQ(d.Enumerate().at(0).ToText(), "beta");
-  d.Call("RemoveAll");
-  EXPECT_EQ(d.Get("Count").ToLong(), 0);
-  EXPECT_THROW(d.Call("NoSuchMember"), Failure);
 }
 
 }  // namespace
