@@ -1,7 +1,10 @@
-// expect launch / no-launch / journal / no-journal, post client|manager,
+// expect launch / no-launch / journal / no-journal, post client|manager, companion answers,
 // pump, wait programs, expect window / no-window
 #include <algorithm>
 
+#include <stdlib.h>
+
+#include "apps/QuorvixClient/post_message.h"
 #include "apps/qvx-sim/verbs.h"
 #include "apps/qvx-sim/world.h"
 #include "companion/message_names.h"
@@ -98,6 +101,17 @@ void RegisterCompanionVerbs(VerbTable& table) {
             [](World& w, const Args& a) {
               a.Expect(1);
               Post(w, companion::kClientWindowCaption, companion::kManagerMessageName, a.Int(0));
+            });
+  table.Add("companion answers", "companion answers VALUE|nothing",
+            "after each accepted call the companion stand-in posts \"ZNB_QVX_Client\" with VALUE "
+            "back to the listener window (until \"nothing\")",
+            [](World&, const Args& a) {
+              a.Expect(1);
+              if (a.Is(0, "nothing")) {
+                unsetenv(standin::kPostMessageVariable);
+              } else {
+                setenv(standin::kPostMessageVariable, std::to_string(a.Int(0)).c_str(), 1);
+              }
             });
   table.Add("pump", "pump", "lets pending host events and window messages through",
             [](World& w, const Args& a) {

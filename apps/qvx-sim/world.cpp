@@ -1,5 +1,7 @@
 #include "apps/qvx-sim/world.h"
 
+#include "apps/QuorvixClient/post_message.h"
+
 #include <stdlib.h>
 
 #include <filesystem>
@@ -47,6 +49,7 @@ World::~World() {
   addin_.reset();
   host_.reset();
   system_->WaitForChildren();
+  unsetenv(standin::kPostMessageVariable);  // "companion answers" lasts one world
   std::error_code ignored;
   std::filesystem::remove_all(folder_, ignored);
 }
