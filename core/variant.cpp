@@ -89,6 +89,7 @@ double NumericValue(const Variant& v) {
       Mismatch();
     }
     case VarType::Object:
+    case VarType::Error:
       Mismatch();
   }
   Mismatch();
@@ -164,9 +165,10 @@ bool ParseNumber(std::string_view text, double& out) {
 }
 
 VarType Variant::Type() const noexcept {
-  static constexpr VarType kTypes[] = {
-      VarType::Empty,    VarType::Null, VarType::Integer, VarType::Long,   VarType::Double,
-      VarType::Currency, VarType::Date, VarType::String,  VarType::Object, VarType::Boolean};
+  static constexpr VarType kTypes[] = {VarType::Empty,   VarType::Null,   VarType::Integer,
+                                       VarType::Long,    VarType::Double, VarType::Currency,
+                                       VarType::Date,    VarType::String, VarType::Object,
+                                       VarType::Boolean, VarType::Error};
   return kTypes[value_.index()];
 }
 
@@ -216,6 +218,7 @@ std::string Variant::ToText() const {
     case VarType::Boolean:
       return *As<bool>() ? "True" : "False";
     case VarType::Object:
+    case VarType::Error:
       Mismatch();
   }
   Mismatch();
@@ -248,6 +251,7 @@ DateValue Variant::ToDate() const {
     case VarType::Null:
       NullUse();
     case VarType::Object:
+    case VarType::Error:
       Mismatch();
     default:
       break;

@@ -31,11 +31,17 @@ enum class VarType : int16_t {
   Date = 7,
   String = 8,
   Object = 9,
+  Error = 10,  // only as an omitted optional argument (VT_ERROR, DISP_E_PARAMNOTFOUND)
   Boolean = 11,
 };
 
 struct NullValue {
   bool operator==(const NullValue&) const = default;
+};
+
+// An optional argument left out by the caller (the runtime's IsMissing).
+struct MissingValue {
+  bool operator==(const MissingValue&) const = default;
 };
 
 // Fixed point with four decimals, as the runtime's Currency.
@@ -56,6 +62,10 @@ class Variant {
  public:
   Variant() = default;
   static Variant Null() { return Variant(NullValue{}); }
+  // An omitted optional argument: `Controls.Add(type, , , , True)` passes
+  // Missing() in the three gaps. Every conversion of it is a type mismatch.
+  static Variant Missing() { return Variant(MissingValue{}); }
+  Variant(MissingValue) : value_(MissingValue{}) {}
   Variant(NullValue) : value_(NullValue{}) {}
   Variant(int16_t v) : value_(v) {}
   Variant(int32_t v) : value_(v) {}
@@ -73,6 +83,7 @@ class Variant {
   bool IsNull() const noexcept { return Type() == VarType::Null; }
   bool IsObject() const noexcept { return Type() == VarType::Object; }
   bool IsString() const noexcept { return Type() == VarType::String; }
+  bool IsMissing() const noexcept { return Type() == VarType::Error; }
 
   // IsNumeric(): Empty, numbers, Booleans and numeric text.
   bool IsNumeric() const;
@@ -99,7 +110,7 @@ class Variant {
 
  private:
   std::variant<std::monostate, NullValue, int16_t, int32_t, double, Currency, DateValue,
-               std::string, Object, bool>
+               std::string, Object, bool, MissingValue>
       value_;
 };
 

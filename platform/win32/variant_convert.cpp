@@ -116,8 +116,8 @@ Variant FromVariant(const VARIANT& in) {
       return Variant(asDouble.ref().dblVal);
     }
     case VT_ERROR:
-      // An omitted optional argument arrives as this error; it reads as Empty.
-      if (in.scode == DISP_E_PARAMNOTFOUND) return Variant();
+      // An omitted optional argument arrives as this error; it stays told apart from Empty.
+      if (in.scode == DISP_E_PARAMNOTFOUND) return Variant::Missing();
       return Variant(static_cast<int32_t>(in.scode));
     default:
       TypeMismatch();
@@ -166,6 +166,10 @@ void ToVariant(const Variant& value, VARIANT* out) {
       out->pdispVal = DispatchOf(object).Detach();
       return;
     }
+    case VarType::Error:
+      out->vt = VT_ERROR;
+      out->scode = DISP_E_PARAMNOTFOUND;
+      return;
   }
 }
 
