@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "platform/form_model.h"
-
 namespace qvx::platform {
+
+class FormModel;  // platform/form_model.h
 
 // MsgBox styles and answers of the legacy runtime.
 namespace msgbox {

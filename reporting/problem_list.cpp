@@ -1,26 +1,34 @@
 #include "reporting/problem_list.h"
 
 #include "addin/state.h"
+#include "core/variant.h"
 #include "platform/user_interface.h"
 
 namespace qvx {
 
-frmMessage::frmMessage() {
-  controls_ = {
-      platform::MakeControl(
-          "Label1", "label",
-          "Please review the following problems with reporting the selected items:"),
-      platform::MakeControl("txtMessage", "textbox", ""),
-      platform::MakeControl("cmdOK", "button", "OK"),
-  };
+namespace {
+
+std::vector<platform::FormControl> Layout() {
+  namespace kind = platform::kind;
+  platform::FormControl message = platform::MakeControl("txtMessage", kind::kTextBox, "");
+  message.multiLine = true;
+  platform::FormControl ok = platform::MakeControl("cmdOK", kind::kButton, "OK");
+  ok.isDefault = true;
+  ok.isCancel = true;
+  return {platform::MakeControl(
+              "Label1", kind::kLabel,
+              "Please review the following problems with reporting the selected items:"),
+          std::move(message), std::move(ok)};
+}
+
+}  // namespace
+
+frmMessage::frmMessage() : FormModel("Message Manager", kHeight, Layout()) {
+  On("cmdOK", "Click", [this](EventArgs&) { cmdOK_Click(); });
 }
 
 void frmMessage::ShowMessage(const std::string& strMessage) {
-  Find("txtMessage")->text = strMessage;
-}
-
-void frmMessage::OnEvent(std::string_view control, std::string_view event) {
-  if (control == "cmdOK" && event == "Click") cmdOK_Click();
+  Control("txtMessage").Put("Text", Variant(strMessage));
 }
 
 void ShowProblemList(AddinState& s, const std::string& text) {

@@ -4,12 +4,10 @@
 //   ShowProblemList(s, "Planning\r\n\t- Problem: Private Item not allowed for reporting!");
 //
 // Controls: Label1 with its fixed text, txtMessage holding the list, cmdOK,
-// whose Click unloads the form (as does the close box).
+// whose Click (or Enter, or Esc) unloads the form, as does the close box.
 #pragma once
 
 #include <string>
-#include <string_view>
-#include <vector>
 
 #include "platform/form_model.h"
 
@@ -23,20 +21,9 @@ class frmMessage : public platform::FormModel {
 
   frmMessage();
 
-  std::string Caption() const override { return "Message Manager"; }
-  int Height() const override { return kHeight; }
-  std::vector<platform::FormControl>& Controls() override { return controls_; }
-  void OnEvent(std::string_view control, std::string_view event) override;
-  bool Unloaded() const override { return unloaded_; }
-  void OnClose() override { unloaded_ = true; }
-
   // Puts the list into txtMessage.
   void ShowMessage(const std::string& strMessage);
-  void cmdOK_Click() { unloaded_ = true; }
-
- private:
-  bool unloaded_ = false;
-  std::vector<platform::FormControl> controls_;
+  void cmdOK_Click() { Unload(); }
 };
 
 // Makes a new frmMessage with the text, shows it modally, releases it.

@@ -41,10 +41,10 @@ void ReportError(AddinState& s, const std::string& description, int32_t number, 
     const std::string report = BuildErrorReport(line, label, source, number, description);
     s.support.firstReportShown = true;
     frmErrorReport form(s);
-    if (!allowDirectSend) form.Control("lblSendDirectly").visible = false;
-    form.Control("lblApplication").caption = std::string(kMessageTitle);
-    form.Control("lblBuild").caption = "Build " + GetVersionText();
-    form.Control("txtReport").text = report;
+    if (!allowDirectSend) form.Control("lblSendDirectly").Put("Visible", Variant(false));
+    form.Control("lblApplication").Put("Caption", Variant(kMessageTitle));
+    form.Control("lblBuild").Put("Caption", Variant("Build " + GetVersionText()));
+    form.Control("txtReport").Put("Text", Variant(report));
     s.ui().ShowModal(form);
   } catch (...) {
     s.err.Clear();

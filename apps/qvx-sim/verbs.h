@@ -11,6 +11,9 @@
 namespace qvx::sim {
 class SimItem;
 }
+namespace qvx::platform {
+struct FormRecord;
+}
 
 namespace qvx::scenario {
 
@@ -18,6 +21,8 @@ void RegisterRegistryVerbs(VerbTable& table);
 void RegisterHostVerbs(VerbTable& table);
 void RegisterAddinVerbs(VerbTable& table);
 void RegisterDialogVerbs(VerbTable& table);
+// Called by RegisterDialogVerbs: the user's acts in a dialog and what they see.
+void RegisterDialogUserVerbs(VerbTable& table);
 void RegisterCompanionVerbs(VerbTable& table);
 void RegisterShowVerbs(VerbTable& table);
 void RegisterMailLibraryVerbs(VerbTable& table);
@@ -30,6 +35,9 @@ void RegisterRibbonVerbs(VerbTable& table);
 // The first item with this subject in the active explorer's folder, else in
 // any folder; a usage error when there is none.
 std::shared_ptr<sim::SimItem> ItemNamed(World& w, const std::string& subject);
+
+// The next dialog shown and not yet expected, which must have this caption.
+const platform::FormRecord& NextForm(World& w, const std::string& caption);
 
 // Fails the expectation unless the two texts are equal.
 void ExpectEqual(const std::string& expected, const std::string& seen);

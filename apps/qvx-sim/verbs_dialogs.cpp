@@ -1,5 +1,6 @@
 // answer msgbox, expect msgbox / no-msgbox, answer error-report,
-// expect error-report / error-report-text / no-error-report, expect form
+// expect error-report / error-report-text / no-error-report, expect form;
+// and, from verbs_dialog_user.cpp, the user's acts in any dialog.
 #include <map>
 
 #include "apps/qvx-sim/verbs.h"
@@ -45,15 +46,6 @@ int StyleOf(const std::string& word) {
   return style;
 }
 
-// The next form not yet expected, which must have the caption.
-const platform::FormRecord& NextForm(World& w, const std::string& caption) {
-  const auto& forms = w.ui().Forms();
-  if (w.formsSeen >= forms.size()) throw ExpectationFailed(Shown(caption), "(no dialog)");
-  const platform::FormRecord& form = forms[w.formsSeen++];
-  ExpectEqual(caption, form.caption);
-  return form;
-}
-
 std::string ControlText(const platform::FormRecord& form, const std::string& name) {
   for (const auto& control : form.controls) {
     if (control.name == name) return control.text;
@@ -77,6 +69,14 @@ std::string ReportField(const std::string& report, const std::string& key) {
 }
 
 }  // namespace
+
+const platform::FormRecord& NextForm(World& w, const std::string& caption) {
+  const auto& forms = w.ui().Forms();
+  if (w.formsSeen >= forms.size()) throw ExpectationFailed(Shown(caption), "(no dialog)");
+  const platform::FormRecord& form = forms[w.formsSeen++];
+  ExpectEqual(caption, form.caption);
+  return form;
+}
 
 void RegisterDialogVerbs(VerbTable& table) {
   table.Add("answer msgbox", "answer msgbox ok|cancel|abort|retry|ignore|yes|no",
@@ -113,7 +113,8 @@ void RegisterDialogVerbs(VerbTable& table) {
   table.Add(
       "answer error-report",
       "answer error-report open-email|send-directly|cancel|view-report|click-here...",
-      "what the user clicks on the next error report dialog, in order",
+      "what the user clicks on the next error report dialog, in order; the click reaches "
+      "the button even where the user could not (send-directly is hidden)",
       [](World& w, const Args& a) {
         a.Expect(1, 8);
         platform::FormScript script;
@@ -157,6 +158,7 @@ void RegisterDialogVerbs(VerbTable& table) {
               a.Expect(1);
               NextForm(w, a.At(0));
             });
+  RegisterDialogUserVerbs(table);
 }
 
 }  // namespace qvx::scenario

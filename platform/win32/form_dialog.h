@@ -1,12 +1,21 @@
 // A FormModel shown as a modal Win32 dialog, built in code.
 //
-// Controls are created from the model in declared order and laid out top to
-// bottom (a run of buttons side by side); the model keeps no geometry. The
-// dialog is as high as the model's Height (twips, 15 to a pixel) and clips
-// what lies below. After every event the dialog shows the model's captions,
-// texts, visible and enabled states again; it closes when the model has
-// unloaded itself. Clicks raise "Click", edits raise "Change" after the new
-// text is in the model; the close box calls OnClose.
+// The dialog has the system's dialog font (DS_SHELLFONT). Its controls are
+// made from the model in declared order, which is the tab order, and placed
+// where the model's designer put them (twips), or else top to bottom (a run
+// of buttons side by side). The window is as high as the model's Height
+// (twips, title bar included) and clips what lies below.
+//
+// Keyboard: the dialog manager's own (Tab, mnemonics such as "&Save").
+// Enter clicks the model's Default button, Esc its Cancel button or, with
+// none, closes as the close box does. Each character typed into a text or
+// combo box raises KeyPress first; a key the handler sets to 0 never reaches
+// the box. The close box raises QueryClose, whose Cancel keeps the dialog.
+// Combo and list boxes show the model's rows; choosing one raises Change and
+// Click, an edit Change after the new text is in the model, a click on a
+// button, label or image Click. After every event the dialog shows the model
+// again; it closes when the model has unloaded. No exception leaves the
+// dialog procedure.
 #pragma once
 
 #include "platform/form_model.h"

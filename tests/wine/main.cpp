@@ -4,25 +4,33 @@
 // it starts).
 //
 //   wine qvx_wine_tests.exe [--list] [FILTER]
+//   wine qvx_wine_tests.exe --show DIALOG    (for tools/render-dialogs.sh)
 //
 // FILTER is a substring of "Suite.Name". Exit code 0 when every test ran
-// without failure.
+// without failure. --show brings up one of the add-in's dialogs and leaves
+// it open until it is closed.
 #include <windows.h>
 
 #include <cstdio>
 #include <string>
 
+#include "dialog_pictures.h"
 #include "harness/check.h"
 #include "harness/companion_journal.h"
 #include "harness/ui_watcher.h"
 
 int main(int argc, char** argv) {
   std::string filter;
+  std::string show;
   for (int i = 1; i < argc; ++i) {
     const std::string arg = argv[i];
     if (arg == "--list") {
       qvx::winetest::ListAll();
       return 0;
+    }
+    if (arg == "--show" && i + 1 < argc) {
+      show = argv[++i];
+      continue;
     }
     filter = arg;
   }
@@ -30,6 +38,12 @@ int main(int argc, char** argv) {
   if (FAILED(OleInitialize(nullptr))) {
     std::printf("OleInitialize failed\n");
     return 1;
+  }
+  if (!show.empty()) {
+    // No watcher: the dialog stays until it is closed from outside.
+    const int shown = qvx::winetest::ShowDialog(show);
+    OleUninitialize();
+    return shown;
   }
   qvx::winetest::SetUpJournal();
   qvx::winetest::Watcher();  // from now on no modal window can block a test

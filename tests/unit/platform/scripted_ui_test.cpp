@@ -2,32 +2,42 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <stdexcept>
+
 namespace qvx::platform {
 namespace {
 
-// A form with a text box, an OK button that unloads it, and a button that grows it.
+// A form with a text box, an OK button that unloads it, and a button that grows
+// it; every event is logged, and the close box is refused unless allowed.
 class TestForm : public FormModel {
  public:
   bool unloadOnClose = true;
   std::vector<std::string> events;
-  int height = 300;
-  bool unloaded = false;
-  std::vector<FormControl> controls{{"txtName", "textbox", "", "start"},
-                                    {"cmdOK", "button", "OK", ""},
-                                    {"cmdGrow", "button", "Grow", ""}};
 
-  std::string Caption() const override { return "Test Form"; }
-  int Height() const override { return height; }
-  std::vector<FormControl>& Controls() override { return controls; }
-  void OnEvent(std::string_view control, std::string_view event) override {
-    events.push_back(std::string(control) + "." + std::string(event));
-    if (control == "cmdOK" && event == "Click") unloaded = true;
-    if (control == "cmdGrow" && event == "Click") height = 900;
+  TestForm()
+      : FormModel("Test Form", 300,
+                  {Text("txtName", "start"), MakeControl("cmdOK", kind::kButton, "OK"),
+                   MakeControl("cmdGrow", kind::kButton, "Grow")}) {
+    for (const char* name : {"txtName", "cmdOK", "cmdGrow"}) {
+      for (const char* event : {"Click", "Change"}) {
+        On(name, event,
+           [this, name, event](EventArgs&) { events.push_back(std::string(name) + "." + event); });
+      }
+    }
+    On("cmdOK", "Click", [this](EventArgs&) { Unload(); });
+    On("cmdGrow", "Click", [this](EventArgs&) { SetHeight(900); });
+    On(kFormEvents, "QueryClose", [this](EventArgs& args) {
+      if (args.at(1).ToLong() == kCloseByControlMenu) events.push_back("close");
+      if (!unloadOnClose) args[0] = Variant(true);
+    });
   }
-  bool Unloaded() const override { return unloaded; }
-  void OnClose() override {
-    events.push_back("close");
-    if (unloadOnClose) unloaded = true;
+
+ private:
+  static FormControl Text(std::string name, std::string text) {
+    FormControl c = MakeControl(std::move(name), kind::kTextBox, "");
+    c.text = std::move(text);
+    return c;
   }
 };
 
@@ -77,6 +87,111 @@ TEST(ScriptedUiForm, AFormThatRefusesToGoDoesNotHang) {
   EXPECT_TRUE(record.stuck);
   EXPECT_EQ(record.height, 300);
   EXPECT_EQ(record.finalHeight, 900);
+}
+
+// A form with the controls the user's acts need: a digits-only box of at most
+// four characters, a locked box, a combo box, a check box, Save (default,
+// disabled until a tick) and Cancel.
+class EditForm : public FormModel {
+ public:
+  std::vector<std::string> events;
+
+  EditForm() : FormModel("Edit", 3000, Layout()) {
+    On("txtDigits", "KeyPress", [](EventArgs& args) {
+      const int32_t key = args.at(0).ToLong();
+      if (key != 8 && (key < '0' || key > '9')) args[0] = Variant(int32_t{0});
+    });
+    for (const char* name : {"txtDigits", "cboRows", "chkSure"}) {
+      for (const char* event : {"Change", "Click"}) {
+        On(name, event,
+           [this, name, event](EventArgs&) { events.push_back(std::string(name) + "." + event); });
+      }
+    }
+    On("chkSure", "Click", [this](EventArgs&) { At("cmdSave").enabled = At("chkSure").value; });
+    On("cmdSave", "Click", [this](EventArgs&) {
+      events.push_back("save");
+      Unload();
+    });
+    On("cmdCancel", "Click", [this](EventArgs&) {
+      events.push_back("cancel");
+      Unload();
+    });
+  }
+
+ private:
+  static std::vector<FormControl> Layout() {
+    FormControl digits = MakeControl("txtDigits", kind::kTextBox, "");
+    digits.maxLength = 4;
+    FormControl locked = MakeControl("txtLocked", kind::kTextBox, "");
+    locked.locked = true;
+    FormControl rows = MakeControl("cboRows", kind::kCombo, "");
+    rows.list = {"Alpha", "Beta"};
+    FormControl save = MakeControl("cmdSave", kind::kButton, "&Save");
+    save.isDefault = true;
+    save.enabled = false;
+    FormControl cancel = MakeControl("cmdCancel", kind::kButton, "&Cancel");
+    cancel.isCancel = true;
+    return {digits, locked, rows, MakeControl("chkSure", kind::kCheck, "Sure"), save, cancel};
+  }
+};
+
+const FormControl& Final(const FormRecord& record, const std::string& name) {
+  for (const FormControl& c : record.finalControls) {
+    if (c.name == name) return c;
+  }
+  throw std::out_of_range(name);
+}
+
+TEST(ScriptedUiUserActs, TypedKeysGoThroughKeyPressAndMaxLength) {
+  ScriptedUserInterface ui;
+  ui.QueueForm(
+      FormScript().Type("txtDigits", "1a2-34567").Key("txtDigits", 8).Key("txtDigits", 'x'));
+  EditForm form;
+  ui.ShowModal(form);
+  EXPECT_EQ(Final(ui.Forms()[0], "txtDigits").text, "123");  // 1234, then backspace
+  // One Change per key that reached the box: 1, 2, 3, 4 and the backspace.
+  EXPECT_EQ(std::count(form.events.begin(), form.events.end(), "txtDigits.Change"), 5);
+}
+
+TEST(ScriptedUiUserActs, TheUserCannotActOnWhatIsLockedDisabledOrAbsent) {
+  ScriptedUserInterface ui;
+  ui.QueueForm(FormScript()
+                   .Type("txtLocked", "x")
+                   .Press("cmdSave")
+                   .Enter()
+                   .Choose("cboRows", "Gamma")
+                   .Tick("txtDigits", true)
+                   .Press("cmdNone")
+                   .Escape());
+  EditForm form;
+  ui.ShowModal(form);
+  const FormRecord& record = ui.Forms()[0];
+  EXPECT_EQ(record.refused,
+            (std::vector<std::string>{"txtLocked is locked", "cmdSave is disabled",
+                                      "cmdSave is disabled", "cboRows has no row \"Gamma\"",
+                                      "txtDigits is no check box", "no control cmdNone"}));
+  EXPECT_EQ(form.events, std::vector<std::string>{"cancel"});  // Esc clicked Cancel
+  EXPECT_FALSE(record.closedByCloseBox);
+}
+
+TEST(ScriptedUiUserActs, ChoosingTickingAndEnter) {
+  ScriptedUserInterface ui;
+  ui.QueueForm(FormScript().Choose("cboRows", "Beta").Tick("chkSure", true).Enter());
+  EditForm form;
+  ui.ShowModal(form);
+  EXPECT_EQ(form.events, (std::vector<std::string>{"cboRows.Change", "cboRows.Click",
+                                                   "chkSure.Change", "chkSure.Click", "save"}));
+  EXPECT_EQ(Final(ui.Forms()[0], "cboRows").listIndex, 1);
+  EXPECT_TRUE(ui.Forms()[0].refused.empty());
+}
+
+TEST(ScriptedUiUserActs, EscapeWithoutACancelButtonIsTheCloseBox) {
+  ScriptedUserInterface ui;
+  ui.QueueForm(FormScript().Escape());
+  TestForm form;
+  ui.ShowModal(form);
+  EXPECT_EQ(form.events, std::vector<std::string>{"close"});
+  EXPECT_FALSE(ui.Forms()[0].closedByCloseBox);  // the script closed it
 }
 
 }  // namespace

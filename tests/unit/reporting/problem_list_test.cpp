@@ -14,14 +14,25 @@ TEST(ProblemList, OnlyOkAndTheCloseBoxUnload) {
   frmMessage clicked;
   EXPECT_EQ(clicked.Find("Label1")->caption,
             "Please review the following problems with reporting the selected items:");
-  clicked.OnEvent("txtMessage", "Click");
-  clicked.OnEvent("cmdOK", "Change");
+  clicked.Raise("txtMessage", "Click");
+  clicked.Raise("cmdOK", "Change");
   EXPECT_FALSE(clicked.Unloaded());
-  clicked.OnEvent("cmdOK", "Click");
+  clicked.Raise("cmdOK", "Click");
   EXPECT_TRUE(clicked.Unloaded());
   frmMessage closed;
-  closed.OnClose();
+  EXPECT_TRUE(closed.QueryClose());
   EXPECT_TRUE(closed.Unloaded());
+}
+
+TEST(ProblemList, EnterAndEscBothMeanOk) {
+  for (const bool escape : {false, true}) {
+    testing::TestAddin t;
+    platform::FormScript script;
+    t.ui.QueueForm(escape ? script.Escape() : script.Enter());
+    ShowProblemList(t.s, "x");
+    ASSERT_EQ(t.ui.Forms().size(), 1u);
+    EXPECT_FALSE(t.ui.Forms()[0].closedByCloseBox) << "escape " << escape;
+  }
 }
 
 TEST(ProblemList, ShowProblemListShowsTheTextModally) {

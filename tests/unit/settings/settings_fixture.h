@@ -13,6 +13,7 @@
 
 #include "addin/state.h"
 #include "core/dates.h"
+#include "platform/form_model.h"
 #include "platform/posix/file_registry.h"
 #include "sim/inert_platform.h"
 

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/form_model.h"
 #include "settings_fixture.h"
 #include "sim/fake_object.h"
 
@@ -98,6 +99,43 @@ TEST(SingleList, PopulateComboList) {
   EXPECT_EQ(readOnly.object->Value("ListIndex").ToLong(), 1);
   EXPECT_FALSE(f.s.err.pending());
   EXPECT_TRUE(f.ui.reports.empty());
+}
+
+// The same fill reaches a form's combo box through its late-bound face.
+TEST(SingleList, PopulateComboListFillsAFormsComboBox) {
+  const struct {
+    int style;
+    std::string shown;
+    std::string value;
+    std::string text;  // afterwards
+    int listIndex;
+  } rows[] = {
+      {platform::kStyleDropDownCombo, "", "b", "b", 1},
+      {platform::kStyleDropDownCombo, "", "free", "free", -1},
+      {platform::kStyleDropDownCombo, "typed", "b", "typed", -1},
+      {platform::kStyleDropDownList, "", "b", "b", 1},
+      {platform::kStyleDropDownList, "", "free", "", -1},  // no such row: nothing chosen
+  };
+  for (const auto& row : rows) {
+    SettingsFixture f;
+    cSingleList list;
+    list.FromString(f.s, "b\na", "\n");
+    platform::FormControl box = platform::MakeControl("cboProject", platform::kind::kCombo, "");
+    box.style = row.style;
+    box.text = row.shown;
+    platform::FormModel form("All Project Fields", 3000, {box});
+    int clicks = 0;
+    form.On("cboProject", "Click", [&](EventArgs&) { ++clicks; });
+    std::string value = row.value;
+    list.PopulateComboList(f.s, form.Control("cboProject"), value, true);
+    const platform::FormControl& shown = form.At("cboProject");
+    EXPECT_EQ(shown.list, (Strings{"a", "b", ""})) << row.value;
+    EXPECT_EQ(shown.text, row.text) << row.value;
+    EXPECT_EQ(shown.listIndex, row.listIndex) << row.value;
+    EXPECT_EQ(clicks, row.listIndex >= 0 ? 1 : 0) << row.value;  // choosing a row clicks
+    EXPECT_FALSE(f.s.err.pending());
+    EXPECT_TRUE(f.ui.reports.empty());
+  }
 }
 
 TEST(SingleList, Arrays) {

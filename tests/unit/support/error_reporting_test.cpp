@@ -98,13 +98,13 @@ TEST_F(ErrorReporting, AFailureInsideTheHandlerIsClearedSilently) {
 
 TEST_F(ErrorReporting, TheFormTogglesItsReportAndOpensThePolicyPage) {
   frmErrorReport form(s);
-  form.OnEvent("cmdViewReport", "Click");
+  form.Raise("cmdViewReport", "Click");
   EXPECT_EQ(form.Height(), 5535);
-  EXPECT_EQ(form.Control("cmdViewReport").caption, "Hide Report");
-  form.OnEvent("cmdViewReport", "Click");
+  EXPECT_EQ(form.At("cmdViewReport").caption, "Hide Report");
+  form.Raise("cmdViewReport", "Click");
   EXPECT_EQ(form.Height(), 3150);
-  EXPECT_EQ(form.Control("cmdViewReport").caption, "View Report");
-  form.OnEvent("lblClickHere", "Click");
+  EXPECT_EQ(form.At("cmdViewReport").caption, "View Report");
+  form.Raise("lblClickHere", "Click");
   EXPECT_FALSE(form.Unloaded());
   ASSERT_EQ(system.Launches().size(), 1u);
   EXPECT_EQ(system.Launches()[0].path, ProductWebPage("/support/ErrorReportingPolicy.asp"));
@@ -126,7 +126,7 @@ TEST_F(ErrorReporting, AnEditedReportIsWhatIsMailedAndCancelSendsNothing) {
   EXPECT_TRUE(ui.MessageBoxes().empty());
 
   frmErrorReport form(s);
-  form.OnEvent("cmdCancel", "Click");
+  form.Raise("cmdCancel", "Click");
   EXPECT_TRUE(form.Unloaded());
   EXPECT_EQ(outlook.createdItems.size(), 1u);
 }

@@ -82,9 +82,10 @@ void WatcherState::Scan() {
   std::erase_if(handled, [](HWND h) { return !IsWindow(h); });
   for (HWND hwnd : dialogs) {
     if (std::find(handled.begin(), handled.end(), hwnd) != handled.end()) continue;
-    handled.push_back(hwnd);
     SeenDialog dialog;
     dialog.caption = TextOf(hwnd);
+    if (dialog.caption.rfind(kLeftToTheTest, 0) == 0) continue;
+    handled.push_back(hwnd);
     Children children{&dialog};
     EnumChildWindows(hwnd, CollectChild, reinterpret_cast<LPARAM>(&children));
     dialog.messageBox = children.firstStandardButton != nullptr;

@@ -1,0 +1,208 @@
+// The Win32 view of a form model: the dialog shows the model's controls with
+// their texts in the system's dialog font and in the model's tab order;
+// Enter clicks the default button, Esc the cancel button; a key that a
+// KeyPress handler swallows never reaches the text box; the close box asks
+// QueryClose, which can keep the dialog open.
+//
+// The test drives the dialog from its own thread, as a user's input arrives:
+// each step runs on a thread timer, which the dialog's loop delivers only
+// when every message posted by the step before has been handled.
+#include <windows.h>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/variant.h"
+#include "harness/check.h"
+#include "platform/form_model.h"
+#include "platform/win32/form_dialog.h"
+
+namespace qvx::winetest {
+namespace {
+
+using Step = std::function<void(HWND dialog)>;
+using platform::FormControl;
+using platform::MakeControl;
+namespace kind = platform::kind;
+
+constexpr int kFirstId = 100;  // the view numbers the controls from here, in declared order
+
+struct Drive {
+  std::vector<Step> steps;
+  size_t next = 0;
+  bool endedByTest = false;
+};
+
+Drive*& Current() {
+  static Drive* drive = nullptr;
+  return drive;
+}
+
+BOOL CALLBACK FindDialog(HWND hwnd, LPARAM found) {
+  wchar_t cls[16] = {};
+  GetClassNameW(hwnd, cls, 16);
+  if (IsWindowVisible(hwnd) && std::wstring(cls) == L"#32770") {
+    *reinterpret_cast<HWND*>(found) = hwnd;
+    return FALSE;
+  }
+  return TRUE;
+}
+
+void CALLBACK Tick(HWND, UINT, UINT_PTR id, DWORD) {
+  Drive& drive = *Current();
+  HWND dialog = nullptr;
+  EnumThreadWindows(GetCurrentThreadId(), FindDialog, reinterpret_cast<LPARAM>(&dialog));
+  if (dialog == nullptr) return;  // not shown yet
+  if (drive.next < drive.steps.size()) {
+    drive.steps[drive.next++](dialog);
+    return;
+  }
+  // Every step is done and the dialog is still there: end it, and say so.
+  KillTimer(nullptr, id);
+  drive.endedByTest = true;
+  EndDialog(dialog, IDABORT);
+}
+
+// Shows the form modally and plays the steps in it; true if the form closed itself.
+bool ShowAndDrive(platform::FormModel& form, std::vector<Step> steps) {
+  Drive drive{std::move(steps)};
+  Current() = &drive;
+  const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, Tick);
+  win32::RunFormDialog(form);
+  KillTimer(nullptr, timer);
+  Current() = nullptr;
+  return !drive.endedByTest;
+}
+
+std::wstring TextOf(HWND hwnd) {
+  wchar_t text[256] = {};
+  GetWindowTextW(hwnd, text, 256);
+  return text;
+}
+
+HWND Item(HWND dialog, int index) {
+  return GetDlgItem(dialog, kFirstId + index);
+}
+
+// A form of each kind of control, logging its events as "name.Event".
+struct FieldsForm {
+  platform::FormModel form{"Test: All Project Fields", 0, Layout()};
+  std::vector<std::string> log;
+  bool keepOpen = false;
+  std::vector<int32_t> closeModes;
+
+  FieldsForm() {
+    form.On("txtField9", "KeyPress", [](EventArgs& a) {
+      const int32_t key = a.at(0).ToLong();
+      if (key != 8 && (key < '0' || key > '9')) a[0] = Variant(int32_t{0});
+    });
+    form.On("cboProject", "Click", [this](EventArgs&) { log.push_back("cboProject.Click"); });
+    form.On("cmdSave", "Click", [this](EventArgs&) {
+      log.push_back("save");
+      form.Unload();
+    });
+    form.On("cmdCancel", "Click", [this](EventArgs&) {
+      log.push_back("cancel");
+      form.Unload();
+    });
+    form.On(platform::kFormEvents, "QueryClose", [this](EventArgs& a) {
+      closeModes.push_back(a.at(1).ToLong());
+      if (keepOpen) a[0] = Variant(true);
+    });
+  }
+
+  static std::vector<FormControl> Layout() {
+    FormControl project = MakeControl("cboProject", kind::kCombo, "");
+    project.list = {"Alpha", "Beta"};
+    project.text = "Beta";
+    project.listIndex = 1;
+    FormControl save = MakeControl("cmdSave", kind::kButton, "&Save");
+    save.isDefault = true;
+    FormControl cancel = MakeControl("cmdCancel", kind::kButton, "&Cancel");
+    cancel.isCancel = true;
+    return {MakeControl("lblProject", kind::kLabel, "&Project"),
+            project,
+            MakeControl("lblField9", kind::kLabel, "Custom Field 9"),
+            MakeControl("txtField9", kind::kTextBox, ""),
+            save,
+            cancel};
+  }
+};
+
+WINE_TEST(FormDialog, ShowsTheModelInTabOrderAndEnterClicksTheDefaultButton) {
+  FieldsForm f;
+  const bool closedItself = ShowAndDrive(
+      f.form,
+      {[&](HWND dialog) {
+         CHECK(TextOf(dialog) == L"Test: All Project Fields");
+         CHECK(TextOf(Item(dialog, 0)) == L"&Project");
+         CHECK_EQ(SendMessageW(Item(dialog, 1), CB_GETCOUNT, 0, 0), LRESULT{2});
+         CHECK(TextOf(Item(dialog, 1)) == L"Beta");
+         CHECK(TextOf(Item(dialog, 4)) == L"&Save");
+         CHECK((GetWindowLongW(Item(dialog, 4), GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON);
+         // The system's dialog font, on the dialog and its controls alike.
+         const auto font = reinterpret_cast<HFONT>(SendMessageW(dialog, WM_GETFONT, 0, 0));
+         CHECK(font != nullptr);
+         CHECK(reinterpret_cast<HFONT>(SendMessageW(Item(dialog, 3), WM_GETFONT, 0, 0)) == font);
+         // Tab goes combo, text box, Save, Cancel, and round again.
+         std::vector<int> order;
+         HWND at = Item(dialog, 1);
+         for (int i = 0; i < 4; ++i, at = GetNextDlgTabItem(dialog, at, FALSE)) {
+           order.push_back(GetDlgCtrlID(at) - kFirstId);
+         }
+         CHECK_EQ(order, (std::vector<int>{1, 3, 4, 5}));
+         CHECK(GetNextDlgTabItem(dialog, Item(dialog, 5), FALSE) == Item(dialog, 1));
+         // Keys typed into the digits-only box: the letter is swallowed.
+         SetFocus(Item(dialog, 3));
+         for (const wchar_t key : {L'4', L'x', L'2'})
+           PostMessageW(Item(dialog, 3), WM_CHAR, key, 0);
+       },
+       [&](HWND dialog) {
+         CHECK(TextOf(Item(dialog, 3)) == L"42");
+         CHECK_EQ(f.form.At("txtField9").text, std::string("42"));
+         // The user chooses the first row of the combo box.
+         SendMessageW(Item(dialog, 1), CB_SETCURSEL, 0, 0);
+         PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(kFirstId + 1, CBN_SELCHANGE),
+                      reinterpret_cast<LPARAM>(Item(dialog, 1)));
+       },
+       [&](HWND dialog) {
+         CHECK_EQ(f.form.At("cboProject").text, std::string("Alpha"));
+         PostMessageW(Item(dialog, 3), WM_KEYDOWN, VK_RETURN, 0);
+       }});
+  CHECK(closedItself);
+  CHECK_EQ(f.log, (std::vector<std::string>{"cboProject.Click", "save"}));
+  CHECK(f.form.Unloaded());
+}
+
+WINE_TEST(FormDialog, EscClicksTheCancelButton) {
+  FieldsForm f;
+  const bool closedItself = ShowAndDrive(f.form, {[&](HWND dialog) {
+                                           SetFocus(Item(dialog, 3));
+                                           PostMessageW(Item(dialog, 3), WM_KEYDOWN, VK_ESCAPE, 0);
+                                         }});
+  CHECK(closedItself);
+  CHECK_EQ(f.log, std::vector<std::string>{"cancel"});
+  CHECK_EQ(f.closeModes, std::vector<int32_t>{platform::kCloseByCode});  // Unload in the handler
+}
+
+WINE_TEST(FormDialog, QueryCloseCanKeepTheDialogOpen) {
+  FieldsForm f;
+  f.keepOpen = true;
+  const bool closedItself =
+      ShowAndDrive(f.form, {[&](HWND dialog) { PostMessageW(dialog, WM_CLOSE, 0, 0); },
+                            [&](HWND dialog) {
+                              CHECK(IsWindowVisible(dialog));
+                              CHECK(!f.form.Unloaded());
+                              f.keepOpen = false;
+                              PostMessageW(dialog, WM_CLOSE, 0, 0);
+                            }});
+  CHECK(closedItself);
+  CHECK(f.form.Unloaded());
+  CHECK_EQ(f.closeModes,
+           (std::vector<int32_t>{platform::kCloseByControlMenu, platform::kCloseByControlMenu}));
+  CHECK(f.log.empty());
+}
+
+}  // namespace
+}  // namespace qvx::winetest
