@@ -1,8 +1,8 @@
 #include "reporting/problem_list.h"
 
-#include "addin/state.h"
 #include "core/variant.h"
 #include "platform/user_interface.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

@@ -1,12 +1,11 @@
 #include "settings/tasks_client.h"
 
-#include "addin/state.h"
 #include "settings/catalogue_text.h"
 #include "settings/project_client.h"
 
 namespace qvx {
 
-std::string cTasksClient::ToString(AddinState& s) const {
+std::string cTasksClient::ToString(FailureSink& s) const {
   return catalogue::Encoded(s, Activity) + "," + CatalogueDateText(s, DueDate);
 }
 

@@ -1,8 +1,8 @@
 #include "support/mail_library.h"
 
-#include "addin/state.h"
 #include "platform/user_interface.h"
-#include "reporting/item_schema.h"
+#include "schema/item_schema.h"
+#include "state/addin_state.h"
 #include "support/app_texts.h"
 #include "support/host_items.h"
 #include "support/outlook_session.h"
@@ -45,7 +45,7 @@ Variant GetFieldValueFromItem(AddinState& s, const Object& item, std::string_vie
     const bool tagged =
         utils && IgnoreFailure(s.err, [&] {
           tag = utils.Call("GetIDsFromNames",
-                           {Variant(item), Variant(schema::kPublicStringsGuid), Variant(strField)});
+                           {Variant(item), Variant(host::kPublicStringsGuid), Variant(strField)});
         });
     if (tagged) {
       line = 30;

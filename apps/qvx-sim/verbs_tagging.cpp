@@ -5,7 +5,6 @@
 // the project colours.
 #include <ostream>
 
-#include "addin/state.h"
 #include "apps/qvx-sim/verbs.h"
 #include "apps/qvx-sim/world.h"
 #include "core/dates.h"
@@ -18,6 +17,7 @@
 #include "sim/item.h"
 #include "sim/items.h"
 #include "sim/user_properties.h"
+#include "state/addin_state.h"
 
 namespace qvx::scenario {
 namespace {
@@ -80,7 +80,7 @@ void AddTagVerbs(VerbTable& table) {
             "the activity the explorer's ribbon shows now (\"\" for none)",
             [](World& w, const Args& a) {
               a.Expect(1);
-              State(w).tagging.SELECTED_ACTIVITY_VALUE = a.At(0);
+              State(w).ribbon.explorer.SELECTED_ACTIVITY_VALUE = a.At(0);
             });
   table.Add("tag colours", "tag colours", "loads the projects' colours into the categories",
             [](World& w, const Args& a) {
@@ -170,7 +170,7 @@ void AddExpectVerbs(VerbTable& table) {
   table.Add("expect shown-activity", "expect shown-activity TEXT",
             "the activity the explorer's ribbon shows", [](World& w, const Args& a) {
               a.Expect(1);
-              ExpectEqual(a.At(0), State(w).tagging.SELECTED_ACTIVITY_VALUE);
+              ExpectEqual(a.At(0), State(w).ribbon.explorer.SELECTED_ACTIVITY_VALUE);
             });
 }
 

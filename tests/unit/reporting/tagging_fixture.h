@@ -11,14 +11,15 @@
 #include <string_view>
 #include <vector>
 
-#include "addin/state.h"
 #include "apps/qvx-sim/world.h"
 #include "core/dates.h"
+#include "settings/my_settings.h"
 #include "sim/appointment.h"
 #include "sim/explorer.h"
 #include "sim/item.h"
 #include "sim/task_item.h"
 #include "sim/user_properties.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

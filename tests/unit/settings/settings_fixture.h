@@ -11,11 +11,12 @@
 #include <string>
 #include <vector>
 
-#include "addin/state.h"
+#include "addin/upward_calls.h"
 #include "core/dates.h"
 #include "platform/form_model.h"
 #include "platform/posix/file_registry.h"
 #include "sim/inert_platform.h"
+#include "state/addin_state.h"
 
 namespace qvx::testing {
 
@@ -69,6 +70,7 @@ struct SettingsFixture {
                              .ui = &ui,
                              .system = &system,
                              .windows = nullptr}) {
+    ConnectUpwardCalls(s);
     s.main.objOutlook = Object(std::make_shared<InertHost>());
   }
 

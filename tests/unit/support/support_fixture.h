@@ -10,11 +10,12 @@
 #include <filesystem>
 #include <string>
 
-#include "addin/state.h"
+#include "addin/upward_calls.h"
 #include "fake_outlook.h"
 #include "platform/posix/posix_objects.h"
 #include "platform/posix/posix_system.h"
 #include "platform/posix/scripted_ui.h"
+#include "state/addin_state.h"
 
 namespace qvx::testing {
 
@@ -26,7 +27,9 @@ class SupportTest : public ::testing::Test {
                 .addinFolder = AddinFolder(),
                 .spawn = false,
                 .environment = {{"USERNAME", "winuser"}}}),
-        objects(system) {}
+        objects(system) {
+    ConnectUpwardCalls(s);
+  }
   ~SupportTest() override { std::filesystem::remove_all(root_); }
 
   // The host is the add-in's connected Application.

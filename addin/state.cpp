@@ -1,7 +1,0 @@
-#include "addin/state.h"
-
-namespace qvx {
-
-AddinState::~AddinState() = default;
-
-}  // namespace qvx
