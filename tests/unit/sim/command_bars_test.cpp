@@ -5,8 +5,8 @@
 #include "sim/command_bars.h"
 #include "sim/explorer.h"
 #include "sim/inspector.h"
-#include "sim/office_constants.h"
 #include "sim/item_classes.h"
+#include "sim/office_constants.h"
 #include "sim/outlook.h"
 #include "unit/sim/sim_test_util.h"
 
