@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
+#include "core/host_constants.h"
 #include "core/text.h"
 #include "sim/command_bars.h"
 #include "sim/errors.h"
-#include "sim/office_constants.h"
 
 namespace qvx::sim {
 namespace {
@@ -105,9 +105,8 @@ const MemberTable& SimBarControls::Members() const {
     MemberTable t = CollectionMembers();
     Define<SimBarControls>(t).Method("Add", 0, 5, [](SimBarControls& c, Args& a) {
       return c
-          .Add(LongArgOr(a, 0, office::kMsoControlButton),
-               LongArgOr(a, 1, office::kCustomControlId), TextArgOr(a, 2, ""), LongArgOr(a, 3, 0),
-               BoolArgOr(a, 4, false))
+          .Add(LongArgOr(a, 0, host::msoControlButton), LongArgOr(a, 1, host::msoControlIdCustom),
+               TextArgOr(a, 2, ""), LongArgOr(a, 3, 0), BoolArgOr(a, 4, false))
           ->AsVariant();
     });
     return t;
@@ -161,7 +160,7 @@ const MemberTable& SimCommandBar::Members() const {
             "Position", [](SimCommandBar& b) { return Variant(b.position_); },
             [](SimCommandBar& b, const Variant& v) {
               const int32_t position = v.ToLong();
-              if (position < office::kMsoBarLeft || position > office::kMsoBarPopup) {
+              if (position < host::msoBarLeft || position > host::msoBarPopup) {
                 throw InvalidParameter();
               }
               b.position_ = position;
@@ -186,9 +185,9 @@ const MemberTable& SimCommandBar::Members() const {
             [](SimCommandBar& b, const Variant& v) { b.protection_ = v.ToLong(); })
         .Get("Type",
              [](SimCommandBar& b) {
-               if (b.menuBar_) return Variant(office::kMsoBarTypeMenuBar);
-               return Variant(b.position_ == office::kMsoBarPopup ? office::kMsoBarTypePopup
-                                                                  : office::kMsoBarTypeNormal);
+               if (b.menuBar_) return Variant(host::msoBarTypeMenuBar);
+               return Variant(b.position_ == host::msoBarPopup ? host::msoBarTypePopup
+                                                               : host::msoBarTypeNormal);
              })
         .Get("BuiltIn", [](SimCommandBar& b) { return Variant(b.builtIn_); })
         .Get("Controls", [](SimCommandBar& b) { return b.controls_->AsVariant(); })

@@ -12,8 +12,8 @@
 // FindControl(Type, Id, Tag, Visible, Recursive) and Delete; a built-in bar
 // refuses Delete, and a deleted bar fails every member.
 //
-//   auto bar = bars.Add("Quorvix", office::kMsoBarTop, false, true);
-//   auto combo = bar->controls().Add(office::kMsoControlComboBox, 1, "", 0, true);
+//   auto bar = bars.Add("Quorvix", host::msoBarTop, false, true);
+//   auto combo = bar->controls().Add(host::msoControlComboBox, 1, "", 0, true);
 #pragma once
 
 #include <memory>

@@ -1,10 +1,10 @@
 // The combo box, edit box and drop-down of a command bar: text, list and Change.
 #include <array>
 
+#include "core/host_constants.h"
 #include "sim/collection.h"
 #include "sim/command_bar_control.h"
 #include "sim/errors.h"
-#include "sim/office_constants.h"
 
 namespace qvx::sim {
 namespace {
@@ -32,7 +32,7 @@ void SimBarComboBox::UserPick(int32_t index) {
 }
 
 void SimBarComboBox::CheckList() const {
-  if (type() == office::kMsoControlEdit) throw ListlessControl();
+  if (type() == host::msoControlEdit) throw ListlessControl();
 }
 
 size_t SimBarComboBox::EntryArg(const Variant& index) const {
@@ -49,7 +49,7 @@ void SimBarComboBox::SetText(std::string_view text) {
       break;
     }
   }
-  if (type() == office::kMsoControlDropdown && found == 0 && !text.empty()) {
+  if (type() == host::msoControlDropdown && found == 0 && !text.empty()) {
     throw InvalidParameter();
   }
   text_ = std::string(text);

@@ -2,10 +2,10 @@
 
 #include <array>
 
+#include "core/host_constants.h"
 #include "sim/collection.h"
 #include "sim/command_bar.h"
 #include "sim/errors.h"
-#include "sim/office_constants.h"
 
 namespace qvx::sim {
 
@@ -13,7 +13,7 @@ SimBarControl::SimBarControl(ContextPtr context, int32_t type, int32_t id, bool 
     : context_(std::move(context)), type_(type), id_(id), temporary_(temporary) {}
 
 bool SimBarControl::builtIn() const {
-  return id_ != office::kCustomControlId;
+  return id_ != host::msoControlIdCustom;
 }
 
 std::string SimBarControl::ShownCaption() const {
@@ -133,7 +133,7 @@ const MemberTable& SimBarButton::Members() const {
 // ---- pop-up ----
 
 SimBarPopup::SimBarPopup(ContextPtr context, int32_t id, bool temporary)
-    : SimBarControl(std::move(context), office::kMsoControlPopup, id, temporary) {}
+    : SimBarControl(std::move(context), host::msoControlPopup, id, temporary) {}
 
 void SimBarPopup::Init() {
   controls_ = std::make_shared<SimBarControls>(context(), weak_from_this());
@@ -156,13 +156,13 @@ const MemberTable& SimBarPopup::Members() const {
 std::shared_ptr<SimBarControl> MakeBarControl(ContextPtr context, int32_t type, int32_t id,
                                               bool temporary) {
   switch (type) {
-    case office::kMsoControlButton:
+    case host::msoControlButton:
       return std::make_shared<SimBarButton>(std::move(context), type, id, temporary);
-    case office::kMsoControlEdit:
-    case office::kMsoControlDropdown:
-    case office::kMsoControlComboBox:
+    case host::msoControlEdit:
+    case host::msoControlDropdown:
+    case host::msoControlComboBox:
       return std::make_shared<SimBarComboBox>(std::move(context), type, id, temporary);
-    case office::kMsoControlPopup: {
+    case host::msoControlPopup: {
       auto popup = std::make_shared<SimBarPopup>(std::move(context), id, temporary);
       popup->Init();
       return popup;

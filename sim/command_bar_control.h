@@ -1,7 +1,7 @@
 // The controls of a simulated command bar: a button, a combo box (also the
 // edit box and the drop-down, which Office gives the same interface) and a
 // pop-up, each the kind that CommandBarControls.Add makes for its
-// msoControl* type (sim/office_constants.h).
+// msoControl* type (core/host_constants.h).
 //
 // All controls: Caption, Tag, Parameter, TooltipText, BeginGroup, Enabled,
 // Visible, Width, Id, Type, BuiltIn, Index, Parent, Delete and Execute. A
@@ -20,7 +20,7 @@
 // Events come only from the user's side (UserClick, UserType, UserPick) and
 // from Execute, never from a put, as in Office:
 //
-//   auto button = bar->controls().Add(office::kMsoControlButton);
+//   auto button = bar->controls().Add(host::msoControlButton);
 //   button->AsObject().Subscribe("Click", [](EventArgs& a) { a[1] = Variant(true); });
 //   button->UserClick();   // Click(button, CancelDefault) runs the handler
 #pragma once

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "core/host_constants.h"
 #include "core/text.h"
 #include "sim/errors.h"
-#include "sim/office_constants.h"
 
 namespace qvx::sim {
 namespace {
@@ -23,13 +23,13 @@ SimCommandBars::SimCommandBars(ContextPtr context, std::weak_ptr<SimObject> wind
     : SimCollection(std::move(context)), window_(std::move(window)) {}
 
 void SimCommandBars::Init() {
-  auto menuBar = AddBar("Menu Bar", office::kMsoBarTop, true, false, true);
+  auto menuBar = AddBar("Menu Bar", host::msoBarTop, true, false, true);
   for (const BuiltInMenu& menu : kMenus) {
-    menuBar->controls().Add(office::kMsoControlPopup, menu.id)->SetCaption(menu.caption);
+    menuBar->controls().Add(host::msoControlPopup, menu.id)->SetCaption(menu.caption);
   }
   menuBar->SetVisible(true);
   activeMenuBar_ = menuBar;
-  AddBar("Standard", office::kMsoBarTop, false, false, true)->SetVisible(true);
+  AddBar("Standard", host::msoBarTop, false, false, true)->SetVisible(true);
 }
 
 std::shared_ptr<SimCommandBar> SimCommandBars::AddBar(std::string name, int32_t position,
@@ -43,7 +43,7 @@ std::shared_ptr<SimCommandBar> SimCommandBars::AddBar(std::string name, int32_t 
 
 std::shared_ptr<SimCommandBar> SimCommandBars::Add(std::string_view name, int32_t position,
                                                    bool menuBar, bool temporary) {
-  if (position < office::kMsoBarLeft || position > office::kMsoBarPopup) {
+  if (position < host::msoBarLeft || position > host::msoBarPopup) {
     throw InvalidParameter();
   }
   std::string barName = name.empty() ? NextCustomName() : std::string(name);
@@ -100,7 +100,7 @@ const MemberTable& SimCommandBars::Members() const {
         .Method("Add", 0, 4,
                 [](SimCommandBars& c, Args& a) {
                   return c
-                      .Add(TextArgOr(a, 0, ""), LongArgOr(a, 1, office::kMsoBarFloating),
+                      .Add(TextArgOr(a, 0, ""), LongArgOr(a, 1, host::msoBarFloating),
                            BoolArgOr(a, 2, false), BoolArgOr(a, 3, false))
                       ->AsVariant();
                 })

@@ -14,7 +14,7 @@
 // controls are gone, what was added without Temporary stays.
 //
 //   auto& bars = explorer->commandBars();
-//   auto bar = bars.Add("Quorvix", office::kMsoBarTop, false, true);
+//   auto bar = bars.Add("Quorvix", host::msoBarTop, false, true);
 //   bars.Restart();   // bar is gone; bar->deleted() is true
 #pragma once
 

@@ -9,10 +9,10 @@
 
 #include "apps/qvx-sim/verbs.h"
 #include "apps/qvx-sim/world.h"
+#include "core/host_constants.h"
 #include "core/text.h"
 #include "sim/application.h"
 #include "sim/command_bars.h"
-#include "sim/office_constants.h"
 #include "sim/window.h"
 
 namespace qvx::scenario {
@@ -21,9 +21,9 @@ namespace {
 constexpr size_t kAnyCount = std::numeric_limits<size_t>::max();
 
 const std::vector<std::string> kKinds = {"button", "edit", "combo", "dropdown", "popup"};
-constexpr int32_t kKindTypes[] = {office::kMsoControlButton, office::kMsoControlEdit,
-                                  office::kMsoControlComboBox, office::kMsoControlDropdown,
-                                  office::kMsoControlPopup};
+constexpr int32_t kKindTypes[] = {host::msoControlButton, host::msoControlEdit,
+                                  host::msoControlComboBox, host::msoControlDropdown,
+                                  host::msoControlPopup};
 
 sim::SimCommandBars& Bars(World& w) {
   auto window = w.host().app().ActiveWindow();
@@ -127,7 +127,7 @@ void AddSetupVerbs(VerbTable& table) {
             [](World& w, const Args& a) {
               a.Expect(1, 2);
               const bool kept = a.size() == 2 && a.Choice(1, {"kept"}) == 0;
-              Bars(w).Add(a.At(0), office::kMsoBarTop, false, !kept)->SetVisible(true);
+              Bars(w).Add(a.At(0), host::msoBarTop, false, !kept)->SetVisible(true);
             });
   table.Add("bar add-control",
             "bar add-control BAR button|edit|combo|dropdown|popup CAPTION [tag TAG] [in POPUP] "
@@ -154,7 +154,7 @@ void AddSetupVerbs(VerbTable& table) {
               sim::SimBarControls* into = &Bar(w, a.At(0))->controls();
               if (!popup.empty()) into = Control(w, a.At(0), popup)->children();
               if (!into) throw UsageError("\"" + popup + "\" is not a pop-up");
-              auto control = into->Add(type, office::kCustomControlId, "", 0, !kept);
+              auto control = into->Add(type, host::msoControlIdCustom, "", 0, !kept);
               control->SetCaption(a.At(2));
               control->SetTag(tag);
             });
@@ -181,7 +181,7 @@ void AddUserVerbs(VerbTable& table) {
             [](World& w, const Args& a) {
               a.Expect(3);
               auto control = Control(w, a.At(0), a.At(1), true);
-              if (control->type() == office::kMsoControlDropdown) {
+              if (control->type() == host::msoControlDropdown) {
                 throw ExpectationFailed(Shown(a.At(1)) + " a box to type into", "(a drop-down)");
               }
               ComboOf(control, a.At(1)).UserType(a.At(2));

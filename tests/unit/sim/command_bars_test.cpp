@@ -2,11 +2,11 @@
 // the add-in reaches them.
 #include <gtest/gtest.h>
 
+#include "core/host_constants.h"
 #include "sim/command_bars.h"
 #include "sim/explorer.h"
 #include "sim/inspector.h"
 #include "sim/item_classes.h"
-#include "sim/office_constants.h"
 #include "sim/outlook.h"
 #include "unit/sim/sim_test_util.h"
 
@@ -28,7 +28,7 @@ class SimCommandBarsTest : public ::testing::Test {
 
   Object AddBar(const std::string& name, bool temporary = true) {
     return bars
-        .Call("Add", {Variant(name), Long(office::kMsoBarTop), Variant(false), Variant(temporary)})
+        .Call("Add", {Variant(name), Long(host::msoBarTop), Variant(false), Variant(temporary)})
         .ToObject();
   }
   static Object AddControl(const Object& owner, std::vector<Variant> args) {
@@ -44,7 +44,7 @@ TEST_F(SimCommandBarsTest, EveryWindowHasItsOwnBarsWithTheBuiltInMenuBar) {
   EXPECT_EQ(menuBar.Get("Name").ToText(), "Menu Bar");
   EXPECT_TRUE(menuBar.Get("BuiltIn").ToBoolean());
   EXPECT_TRUE(menuBar.Get("Visible").ToBoolean());
-  EXPECT_EQ(menuBar.Get("Type").ToLong(), office::kMsoBarTypeMenuBar);
+  EXPECT_EQ(menuBar.Get("Type").ToLong(), host::msoBarTypeMenuBar);
   EXPECT_TRUE(bars.Call("Item", {Variant("menu bar")}).ToObject().Is(menuBar));
   EXPECT_TRUE(bars.Call("Item", {Long(1)}).ToObject().Is(menuBar));
   EXPECT_EQ(FailureOf([&] { menuBar.Call("Delete"); }).number(), hresult::kFail);
@@ -54,7 +54,7 @@ TEST_F(SimCommandBarsTest, EveryWindowHasItsOwnBarsWithTheBuiltInMenuBar) {
 TEST_F(SimCommandBarsTest, AddTakesOmittedArgumentsAndRefusesANameThatIsThere) {
   const Object custom = bars.Call("Add").ToObject();
   EXPECT_EQ(custom.Get("Name").ToText(), "Custom 1");
-  EXPECT_EQ(custom.Get("Position").ToLong(), office::kMsoBarFloating);
+  EXPECT_EQ(custom.Get("Position").ToLong(), host::msoBarFloating);
   EXPECT_FALSE(custom.Get("Visible").ToBoolean());  // shown only when told
   const Object quorvix =
       bars.Call("Add", {Variant("Quorvix"), kMissing, kMissing, Variant(true)}).ToObject();
@@ -80,14 +80,14 @@ TEST_F(SimCommandBarsTest, ControlsAddHonoursOmittedArgumentsInEveryForm) {
   const Object bar = AddBar("Quorvix");
   const Object plain = AddControl(bar, {});
   EXPECT_EQ(plain.TypeName(), "CommandBarButton");
-  EXPECT_EQ(plain.Get("Id").ToLong(), office::kCustomControlId);
+  EXPECT_EQ(plain.Get("Id").ToLong(), host::msoControlIdCustom);
   const Object gaps = AddControl(
-      bar, {Long(office::kMsoControlComboBox), kMissing, kMissing, kMissing, Variant(true)});
+      bar, {Long(host::msoControlComboBox), kMissing, kMissing, kMissing, Variant(true)});
   EXPECT_EQ(gaps.TypeName(), "CommandBarComboBox");
-  const Object typeOnly = AddControl(bar, {Long(office::kMsoControlPopup)});
-  EXPECT_EQ(typeOnly.Get("Type").ToLong(), office::kMsoControlPopup);
-  const Object first = AddControl(
-      bar, {Long(office::kMsoControlEdit), Long(1), Variant("p"), Long(1), Variant(true)});
+  const Object typeOnly = AddControl(bar, {Long(host::msoControlPopup)});
+  EXPECT_EQ(typeOnly.Get("Type").ToLong(), host::msoControlPopup);
+  const Object first =
+      AddControl(bar, {Long(host::msoControlEdit), Long(1), Variant("p"), Long(1), Variant(true)});
   EXPECT_EQ(first.Get("Index").ToLong(), 1);
   EXPECT_EQ(first.Get("Parameter").ToText(), "p");
   EXPECT_EQ(plain.Get("Index").ToLong(), 2);
@@ -101,14 +101,14 @@ TEST_F(SimCommandBarsTest, ControlsAddHonoursOmittedArgumentsInEveryForm) {
 
 TEST_F(SimCommandBarsTest, ARequiredArgumentLeftOutFailsAsNotOptional) {
   const Object bar = AddBar("Quorvix");
-  const Object combo = AddControl(bar, {Long(office::kMsoControlComboBox)});
+  const Object combo = AddControl(bar, {Long(host::msoControlComboBox)});
   EXPECT_EQ(FailureOf([&] { combo.Call("AddItem", {kMissing}); }).number(), 449);
 }
 
 TEST_F(SimCommandBarsTest, ClickPassesTheButtonAndCancelDefaultByReference) {
   const Object bar = AddBar("Quorvix");
-  const Object custom = AddControl(bar, {Long(office::kMsoControlButton)});
-  const Object builtIn = AddControl(bar, {Long(office::kMsoControlButton), Long(5488)});
+  const Object custom = AddControl(bar, {Long(host::msoControlButton)});
+  const Object builtIn = AddControl(bar, {Long(host::msoControlButton), Long(5488)});
   Object clicked;
   bool cancel = false;
   Subscription a = custom.Subscribe("Click", [&](EventArgs& args) {
@@ -129,7 +129,7 @@ TEST_F(SimCommandBarsTest, ClickPassesTheButtonAndCancelDefaultByReference) {
 
 TEST_F(SimCommandBarsTest, ChangeComesFromTheUserNotFromAPut) {
   const Object bar = AddBar("Quorvix");
-  const Object combo = AddControl(bar, {Long(office::kMsoControlComboBox)});
+  const Object combo = AddControl(bar, {Long(host::msoControlComboBox)});
   int changes = 0;
   std::string seen;
   Subscription s = combo.Subscribe("Change", [&](EventArgs& args) {
@@ -145,7 +145,7 @@ TEST_F(SimCommandBarsTest, ChangeComesFromTheUserNotFromAPut) {
 
 TEST_F(SimCommandBarsTest, ListIndexFollowsTheTextAndRefusesPositionsOutsideTheList) {
   const Object bar = AddBar("Quorvix");
-  const Object combo = AddControl(bar, {Long(office::kMsoControlComboBox)});
+  const Object combo = AddControl(bar, {Long(host::msoControlComboBox)});
   combo.Call("AddItem", {Variant("Alpha")});
   combo.Call("AddItem", {Variant("Beta")});
   combo.Call("AddItem", {Variant("First"), Long(1)});
@@ -174,11 +174,11 @@ TEST_F(SimCommandBarsTest, ListIndexFollowsTheTextAndRefusesPositionsOutsideTheL
 
 TEST_F(SimCommandBarsTest, EditBoxesHaveNoListAndDropDownsOnlyTheirEntries) {
   const Object bar = AddBar("Quorvix");
-  const Object edit = AddControl(bar, {Long(office::kMsoControlEdit)});
+  const Object edit = AddControl(bar, {Long(host::msoControlEdit)});
   EXPECT_EQ(FailureOf([&] { edit.Call("AddItem", {Variant("x")}); }).number(), hresult::kFail);
   edit.Put("Text", Variant("typed"));
   EXPECT_EQ(edit.Get("Text").ToText(), "typed");
-  const Object dropDown = AddControl(bar, {Long(office::kMsoControlDropdown)});
+  const Object dropDown = AddControl(bar, {Long(host::msoControlDropdown)});
   dropDown.Call("AddItem", {Variant("One")});
   EXPECT_EQ(FailureOf([&] { dropDown.Put("Text", Variant("Two")); }).number(),
             hresult::kInvalidArg);
@@ -188,9 +188,9 @@ TEST_F(SimCommandBarsTest, EditBoxesHaveNoListAndDropDownsOnlyTheirEntries) {
 
 TEST_F(SimCommandBarsTest, DeleteRemovesAndLeavesAHandleThatFails) {
   const Object bar = AddBar("Quorvix");
-  const Object popup = AddControl(bar, {Long(office::kMsoControlPopup)});
-  const Object entry = AddControl(popup, {Long(office::kMsoControlButton)});
-  const Object button = AddControl(bar, {Long(office::kMsoControlButton)});
+  const Object popup = AddControl(bar, {Long(host::msoControlPopup)});
+  const Object entry = AddControl(popup, {Long(host::msoControlButton)});
+  const Object button = AddControl(bar, {Long(host::msoControlButton)});
   button.Call("Delete");
   EXPECT_EQ(bar.Get("Controls").ToObject().Get("Count").ToLong(), 1);
   EXPECT_EQ(FailureOf([&] { button.Get("Caption"); }).number(), hresult::kFail);
@@ -205,21 +205,21 @@ TEST_F(SimCommandBarsTest, DeleteRemovesAndLeavesAHandleThatFails) {
 TEST_F(SimCommandBarsTest, FindControlByTagTypeAndVisibility) {
   const Object menuBar = bars.Get("ActiveMenuBar").ToObject();
   const Object popup = AddControl(
-      menuBar, {Long(office::kMsoControlPopup), Long(1), kMissing, kMissing, Variant(true)});
+      menuBar, {Long(host::msoControlPopup), Long(1), kMissing, kMissing, Variant(true)});
   popup.Put("Tag", Variant("QuorvixClientMenu"));
-  const Object entry = AddControl(popup, {Long(office::kMsoControlButton)});
+  const Object entry = AddControl(popup, {Long(host::msoControlButton)});
   entry.Put("Tag", Variant("About"));
   const auto find = [&](const Object& where, std::vector<Variant> args) {
     return where.Call("FindControl", std::move(args)).ToObject();
   };
   const Variant menuTag("QuorvixClientMenu");
-  const Variant popupType = Long(office::kMsoControlPopup);
+  const Variant popupType = Long(host::msoControlPopup);
   EXPECT_TRUE(
       find(menuBar, {popupType, kMissing, menuTag, Variant(true), Variant(true)}).Is(popup));
   EXPECT_TRUE(find(bars, {kMissing, kMissing, menuTag}).Is(popup));
   EXPECT_TRUE(find(bars, {kMissing, kMissing, Variant("About")}).Is(entry));  // inside the menu
   EXPECT_TRUE(find(menuBar, {kMissing, kMissing, Variant("About")}).IsNothing());  // not recursive
-  EXPECT_TRUE(find(menuBar, {Long(office::kMsoControlButton), kMissing, menuTag}).IsNothing());
+  EXPECT_TRUE(find(menuBar, {Long(host::msoControlButton), kMissing, menuTag}).IsNothing());
   popup.Put("Visible", Variant(false));
   EXPECT_TRUE(
       find(menuBar, {popupType, kMissing, menuTag, Variant(true), Variant(true)}).IsNothing());
@@ -229,12 +229,12 @@ TEST_F(SimCommandBarsTest, FindControlByTagTypeAndVisibility) {
 TEST_F(SimCommandBarsTest, ARestartDropsWhatWasTemporaryAndKeepsWhatWasLeftBehind) {
   const Object temporary = AddBar("Quorvix", true);
   const Object kept = AddBar("Quorvix Custom Fields", false);
-  const Object keptButton = AddControl(kept, {Long(office::kMsoControlButton)});
-  const Object temporaryButton = AddControl(
-      kept, {Long(office::kMsoControlButton), kMissing, kMissing, kMissing, Variant(true)});
+  const Object keptButton = AddControl(kept, {Long(host::msoControlButton)});
+  const Object temporaryButton =
+      AddControl(kept, {Long(host::msoControlButton), kMissing, kMissing, kMissing, Variant(true)});
   const Object menuEntry =
       AddControl(bars.Get("ActiveMenuBar").ToObject(),
-                 {Long(office::kMsoControlPopup), Long(1), kMissing, kMissing, Variant(true)});
+                 {Long(host::msoControlPopup), Long(1), kMissing, kMissing, Variant(true)});
   world.Restart();
   EXPECT_EQ(FailureOf([&] { bars.Call("Item", {Variant("Quorvix")}); }).number(),
             hresult::kInvalidArg);
@@ -249,8 +249,8 @@ TEST_F(SimCommandBarsTest, ARestartDropsWhatWasTemporaryAndKeepsWhatWasLeftBehin
 
 TEST_F(SimCommandBarsTest, CaptionsShowAsTheHostDrawsThem) {
   auto& sim = world.ActiveExplorer()->commandBars();
-  auto bar = sim.Add("Quorvix", office::kMsoBarTop, false, true);
-  auto button = bar->controls().Add(office::kMsoControlButton);
+  auto bar = sim.Add("Quorvix", host::msoBarTop, false, true);
+  auto button = bar->controls().Add(host::msoControlButton);
   const struct {
     const char* caption;
     const char* shown;
