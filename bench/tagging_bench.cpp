@@ -9,7 +9,6 @@
 
 #include "bench_state.h"
 #include "core/dates.h"
-#include "platform/posix/posix_system.h"
 #include "reporting/color_codes.h"
 #include "reporting/tag_selection.h"
 #include "reporting/tag_values.h"
@@ -21,17 +20,11 @@
 namespace qvx::bench {
 namespace {
 
-platform::PosixSystemOptions Recording() {
-  platform::PosixSystemOptions options;
-  options.spawn = false;
-  return options;
-}
-
 // An add-in connected to a host whose calendar explorer has `count`
 // appointments selected, the catalogue holding `projects` projects.
-struct TaggingWorld {
-  TaggingWorld(int count, int projects) : system(Recording()) {
-    s.main.objOutlook = host.Application();
+struct TaggingWorld : sim::SimulatedHost, BenchState {
+  TaggingWorld(int count, int projects) {
+    ConnectHost(host);
     s.main.objNameSpace = host.Application().Get("Session").ToObject();
     system.SetDoEventsHook([this] { host.Pending().RunPending(); });
     s.main.objMySettings = std::make_unique<cMySettings>();
@@ -52,14 +45,7 @@ struct TaggingWorld {
     }
     host.Select(*explorer, items);
   }
-  bool Clean() const { return ui.forms == 0 && !s.err.pending(); }
 
-  sim::Outlook host;
-  CountingUi ui;
-  NoObjects objects;
-  platform::PosixSystemServices system;
-  AddinState s{platform::Platform{
-      .registry = nullptr, .objects = &objects, .ui = &ui, .system = &system, .windows = nullptr}};
   std::shared_ptr<sim::SimExplorer> explorer;
   std::vector<std::shared_ptr<sim::SimItem>> items;
 };
