@@ -24,7 +24,6 @@
 #include <string>
 #include <vector>
 
-#include "addin/state.h"
 #include "core/dates.h"
 #include "platform/posix/file_registry.h"
 #include "platform/posix/posix_objects.h"
@@ -33,6 +32,7 @@
 #include "sim/inert_platform.h"
 #include "sim/outlook.h"
 #include "sim/temp_folder.h"
+#include "state/addin_state.h"
 
 namespace qvx::sim {
 
