@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <memory>
 
+#include "addin/upward_calls.h"
 #include "sim/fake_object.h"
 
 namespace qvx::sim {
@@ -30,6 +31,7 @@ TestAddin::TestAddin(TestAddinOptions options)
                            .ui = &ui,
                            .system = &system,
                            .windows = &windows}) {
+  ConnectUpwardCalls(s);
   std::filesystem::create_directories(Home());
   system.SetClock(ComposeDate(kNow));
   if (options.inertHost)

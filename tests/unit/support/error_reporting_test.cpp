@@ -126,7 +126,7 @@ TEST_F(ErrorReporting, AnEditedReportIsWhatIsMailedAndCancelSendsNothing) {
   EXPECT_EQ(mail.Field("To").ToText(), kErrorReportMailAddress);
   EXPECT_EQ(mail.Subject(), "Exception (" + GetVersionText() + ") : Quorvix Client Addin");
   EXPECT_EQ(mail.saveCount(), 1);
-  EXPECT_EQ(mail.Folder(), host.DefaultFolder(sim::kFolderDrafts));
+  EXPECT_EQ(mail.Folder(), host.DefaultFolder(host::olFolderDrafts));
   EXPECT_FALSE(ui.Forms()[0].closedByCloseBox);
   EXPECT_TRUE(ui.MessageBoxes().empty());
 

@@ -1,6 +1,7 @@
 #include "support/host_items.h"
 
 #include "core/dates.h"
+#include "core/host_constants.h"
 #include "sim/appointment.h"
 #include "sim/explorer.h"
 #include "sim/inspector.h"
@@ -14,10 +15,6 @@ namespace qvx::testing {
 namespace {
 
 using HostItems = SupportTest;
-
-// A property of a type the host doesn't convert to (a combination field):
-// it holds the value as given, so a test can give any.
-constexpr int32_t kOlCombination = 19;
 
 // The item's "ProjectValue" holds `value` (no such property when Empty) and
 // is asked for by another case of its name.
@@ -56,7 +53,8 @@ TEST_F(HostItems, GetUserDefinedFieldValueByTypeSelector) {
   for (size_t i = 0; i < std::size(rows); ++i) {
     auto item = host.AddAppointment("A", DateSerial(2026, 1, 2), DateSerial(2026, 1, 2));
     if (!rows[i].value.IsEmpty()) {
-      item->UserProperties().Set("ProjectValue", kOlCombination, rows[i].value);
+      // A combination field: the host doesn't convert it, so it holds any value given.
+      item->UserProperties().Set("ProjectValue", host::olCombination, rows[i].value);
     }
     const Variant got = GetUserDefinedFieldValue(s, item->AsObject(), "projectvalue", rows[i].type,
                                                  rows[i].defaultValue);
@@ -67,7 +65,7 @@ TEST_F(HostItems, GetUserDefinedFieldValueByTypeSelector) {
 
 TEST_F(HostItems, AGoneItemReadsAsOneWithoutTheProperty) {
   auto item = host.AddAppointment("A", DateSerial(2026, 1, 2), DateSerial(2026, 1, 2));
-  item->UserProperties().Set("ProjectValue", sim::kOlText, Variant("P1"));
+  item->UserProperties().Set("ProjectValue", host::olText, Variant("P1"));
   const Object held = item->AsObject();
   item->Delete();
   EXPECT_EQ(GetUserDefinedFieldValue(s, held, "ProjectValue", VarType::String, Variant("x")),
@@ -80,7 +78,7 @@ TEST_F(HostItems, AGoneItemReadsAsOneWithoutTheProperty) {
 TEST_F(HostItems, AnUnconvertibleValueIsReportedAndGivesEmpty) {
   ConnectHost();
   auto item = host.AddAppointment("A", DateSerial(2026, 1, 2), DateSerial(2026, 1, 2));
-  item->UserProperties().Set("Flag", sim::kOlText, Variant("maybe"));
+  item->UserProperties().Set("Flag", host::olText, Variant("maybe"));
   EXPECT_TRUE(GetUserDefinedFieldValue(s, item->AsObject(), "Flag", VarType::Boolean).IsEmpty());
   ASSERT_EQ(ui.Forms().size(), 1u);
   EXPECT_TRUE(ReportIsTrap(ui.Forms()[0].controls[1].text, "GetUserDefinedFieldValue"));

@@ -16,7 +16,7 @@ using EnsureOutlookSessionTest = SupportTest;
 TEST_F(EnsureOutlookSessionTest, HeldHostShowsNoBoxAndActivatesTheFirstExplorer) {
   ConnectHost();
   host.FailAt("ActiveExplorer", sim::hresult::kFail, "The operation failed.");
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_TRUE(ui.MessageBoxes().empty());
   ASSERT_EQ(host.Explorers().size(), 1u);  // none added
   EXPECT_EQ(host.Explorers()[0]->CallCount("Activate"), 1);
@@ -26,15 +26,15 @@ TEST_F(EnsureOutlookSessionTest, HeldHostShowsNoBoxAndActivatesTheFirstExplorer)
 
 TEST_F(EnsureOutlookSessionTest, AnActiveExplorerIsLeftAloneAndTheSessionAskedOnce) {
   ConnectHost();
-  EnsureOutlookSession(s, kFolderInbox);
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_EQ(host.Explorers()[0]->CallCount("Activate"), 0);
   EXPECT_EQ(host.app().CallCount("GetNamespace"), 1);
 }
 
 TEST_F(EnsureOutlookSessionTest, AttachesToARunningHost) {
   HostRunning();
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_TRUE(s.main.objOutlook.Is(host.Application()));
   EXPECT_TRUE(objects.CreateRequests().empty());
   EXPECT_TRUE(ui.MessageBoxes().empty());
@@ -42,7 +42,7 @@ TEST_F(EnsureOutlookSessionTest, AttachesToARunningHost) {
 
 TEST_F(EnsureOutlookSessionTest, CreatesByTheVersionedProgIdsInOrder) {
   objects.RegisterCreator("Outlook.Application.12", [this] { return host.Application(); });
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_TRUE(s.main.objOutlook.Is(host.Application()));
   EXPECT_EQ(objects.CreateRequests(),
             (std::vector<std::string>{"Outlook.Application", "Outlook.Application.14",
@@ -51,7 +51,7 @@ TEST_F(EnsureOutlookSessionTest, CreatesByTheVersionedProgIdsInOrder) {
 }
 
 TEST_F(EnsureOutlookSessionTest, NoHostShowsBothBoxesAndTearsDown) {
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_EQ(objects.CreateRequests().size(), 7u);
   ASSERT_EQ(ui.MessageBoxes().size(), 2u);
   EXPECT_EQ(ui.MessageBoxes()[0].text, "Error trying to start Outlook!");
@@ -66,14 +66,14 @@ TEST_F(EnsureOutlookSessionTest, NoHostShowsBothBoxesAndTearsDown) {
 TEST_F(EnsureOutlookSessionTest, VersionBelowTenIsRefusedAndTenPasses) {
   HostRunning();
   host.SetVersion("9.0.0.2711");
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   ASSERT_EQ(ui.MessageBoxes().size(), 1u);
   EXPECT_EQ(ui.MessageBoxes()[0].text, kRequired + "\r\n9");
   EXPECT_EQ(ui.MessageBoxes()[0].style, msgbox::kCritical);
   EXPECT_TRUE(s.main.objOutlook.IsNothing());
   s.support.cachedVersion = 0;
   host.SetVersion("10.0");
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_EQ(ui.MessageBoxes().size(), 1u);
   EXPECT_FALSE(s.main.objOutlook.IsNothing());
 }
@@ -90,7 +90,7 @@ TEST_F(SupportTest, GetVersionTakesTheMajorAndCachesIt) {
 
 TEST_F(SupportTest, ShowDefaultFolderLeavesAnOpenExplorerAlone) {
   ConnectHost();
-  ShowDefaultFolder(s, kFolderCalendar);
+  ShowDefaultFolder(s, host::olFolderCalendar);
   ASSERT_EQ(host.Explorers().size(), 1u);
   EXPECT_EQ(host.Explorers()[0]->folder(), host.Inbox());
   EXPECT_TRUE(ui.MessageBoxes().empty());
@@ -99,7 +99,7 @@ TEST_F(SupportTest, ShowDefaultFolderLeavesAnOpenExplorerAlone) {
 TEST_F(SupportTest, ShowDefaultFolderOpensAndShowsAnExplorerWhenThereIsNone) {
   host.StartsWithoutExplorer();
   ConnectHost();
-  ShowDefaultFolder(s, kFolderCalendar);
+  ShowDefaultFolder(s, host::olFolderCalendar);
   ASSERT_EQ(host.Explorers().size(), 1u);
   EXPECT_EQ(host.Explorers()[0]->folder(), host.Calendar());
   EXPECT_EQ(host.Explorers()[0]->CallCount("Display"), 1);
@@ -111,7 +111,7 @@ TEST_F(SupportTest, ShowDefaultFolderTellsTheLastFailureInABox) {
   host.StartsWithoutExplorer();
   host.FailAt("Session.GetDefaultFolder", sim::hresult::kFail, "No access.");
   ConnectHost();
-  ShowDefaultFolder(s, kFolderCalendar);
+  ShowDefaultFolder(s, host::olFolderCalendar);
   EXPECT_TRUE(host.Explorers().empty());
   ASSERT_EQ(ui.MessageBoxes().size(), 1u);
   // Failures are ignored statement by statement, so the box tells the last
