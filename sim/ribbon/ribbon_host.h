@@ -152,6 +152,9 @@ class RibbonWindow {
 
   void Forget(std::string_view controlId);  // invalidation
   void ForgetAll();
+  // Shows `value` as the answer of the element's getter until invalidated,
+  // when the element binds one: what the user just chose.
+  void Remember(const MarkupElement& e, std::string_view getter, Variant value);
   std::optional<Variant> Ask(const MarkupElement& e, std::string_view getter, const Object& context,
                              std::optional<int32_t> index = {});
   std::string AskText(const MarkupElement& e, std::string_view attribute, std::string_view getter,
