@@ -274,6 +274,27 @@ TEST_F(RibbonHostTest, InvalidationAsksAgainExactlyWhatWasInvalidated) {
   EXPECT_EQ(host.InvalidationCount(), 1);
 }
 
+// The host shows the user's choice at once; the add-in's answer counts again
+// after it invalidates the control.
+TEST_F(RibbonHostTest, AChoiceShowsUntilTheAddinIsAskedAgain) {
+  addin.Define("Pressed", [](Args&) { return Variant(false); });
+  addin.Define("Selected", [](Args&) { return Variant(0); });
+  addin.Define("Act", [](Args&) { return Variant(); });
+  RibbonWindow& window =
+      Open(Document("<toggleButton id=\"t1\" getPressed=\"Pressed\" onAction=\"Act\"/>"
+                    "<dropDown id=\"d1\" getSelectedItemIndex=\"Selected\" onAction=\"Act\">"
+                    "<item id=\"a\" label=\"A\"/><item id=\"b\" label=\"B\"/></dropDown>"));
+  ASSERT_EQ(window.Click("t1"), UserActionResult::Done);
+  ASSERT_EQ(window.Choose("d1", 1), UserActionResult::Done);
+  TakeCalls();
+  EXPECT_TRUE(window.Shown("t1")->pressed);
+  EXPECT_EQ(window.Shown("d1")->selectedIndex, 1);
+  EXPECT_TRUE(TakeCalls().empty());
+  ribbonUi.Call("Invalidate");
+  EXPECT_FALSE(window.Shown("t1")->pressed);
+  EXPECT_EQ(window.Shown("d1")->selectedIndex, 0);
+}
+
 TEST_F(RibbonHostTest, InvalidationReachesEveryWindowOfTheRibbonAndOutlivesNone) {
   addin.Define("Label", [](Args&) { return Variant("L"); });
   RibbonWindow& first = Open(Document("<button id=\"b1\" getLabel=\"Label\"/>"));
