@@ -19,6 +19,7 @@ void RegisterAllVerbs(VerbTable& table) {
   RegisterRibbonVerbs(table);
   RegisterRibbonUserVerbs(table);
   RegisterRibbonStandInVerbs(table);
+  RegisterBarVerbs(table);
 }
 
 void ExpectEqual(const std::string& expected, const std::string& seen) {

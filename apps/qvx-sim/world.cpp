@@ -123,4 +123,15 @@ void World::Finish() {
   system_->WaitForChildren();
 }
 
+void World::RestartHost() {
+  Finish();
+  // A new host loads its ribbons anew; the script's stand-in markup stays.
+  ribbonWindow = nullptr;
+  ribbonHost_.reset();
+  ribbonActionsSeen = 0;
+  ribbonInvalidationsSeen = 0;
+  addin_.reset();
+  host_->Restart();
+}
+
 }  // namespace qvx::scenario
