@@ -46,6 +46,10 @@ World::World() : folder_(MakeFolder()) {
 }
 
 World::~World() {
+  ribbonWindow = nullptr;
+  ribbonHost_.reset();  // the ribbon calls the add-in: it goes first
+  scriptedRibbon_.reset();
+  ribbonClient_.reset();
   addin_.reset();
   host_.reset();
   system_->WaitForChildren();
@@ -61,6 +65,20 @@ sim::FakeObject& World::ribbonUi() {
         .Method("InvalidateControl", 1, 1, [](sim::Args&) { return Variant(); });
   }
   return *ribbonUi_;
+}
+
+sim::ScriptedRibbonAddin& World::scriptedRibbon() {
+  if (!scriptedRibbon_) {
+    ribbonClient_ =
+        std::make_unique<sim::AddinRibbonClient>([this]() -> QVXClientAddin& { return addin(); });
+    scriptedRibbon_ = std::make_unique<sim::ScriptedRibbonAddin>(ribbonClient_.get());
+  }
+  return *scriptedRibbon_;
+}
+
+sim::RibbonHost& World::ribbonHost() {
+  if (!ribbonHost_) ribbonHost_ = std::make_unique<sim::RibbonHost>(scriptedRibbon());
+  return *ribbonHost_;
 }
 
 QVXClientAddin& World::addin() {
@@ -81,12 +99,26 @@ void World::InstallMailLibrary(const sim::MailLibraryOptions& options) {
   mailLibrary_->Install(*objects_);
 }
 
-void World::Pump() {
+size_t World::Pump() {
   // Window messages and host events may each cause more of the other.
+  size_t total = 0;
   for (int round = 0; round < 100; ++round) {
     const size_t ran = host_->Pending().RunPending() + windows_.DispatchPending();
     if (ran == 0) break;
+    total += ran;
   }
+  return total;
+}
+
+bool World::SettleCompanion(int rounds) {
+  // A program's post is in the listener's queue once the program has ended
+  // (a local datagram is queued when it is sent), so reaping first and then
+  // draining leaves nothing behind; a delivery may start programs again.
+  for (int round = 0; round < rounds; ++round) {
+    WaitForPrograms();
+    if (Pump() == 0) return true;
+  }
+  return false;
 }
 
 std::vector<std::string> World::JournalLines() const {
@@ -107,6 +139,11 @@ void World::Finish() {
 
 void World::RestartHost() {
   Finish();
+  // A new host loads its ribbons anew; the script's stand-in markup stays.
+  ribbonWindow = nullptr;
+  ribbonHost_.reset();
+  ribbonActionsSeen = 0;
+  ribbonInvalidationsSeen = 0;
   addin_.reset();
   host_->Restart();
 }
