@@ -91,8 +91,9 @@ class Define {
 };
 
 // Argument readers with the runtime's conversions (13 type mismatch, 6 overflow).
+// An omitted argument (Missing) counts as absent, as Empty does.
 inline bool HasArg(const Args& args, size_t i) {
-  return i < args.size() && !args[i].IsEmpty();
+  return i < args.size() && !args[i].IsEmpty() && !args[i].IsMissing();
 }
 inline int32_t LongArg(const Args& args, size_t i) {
   return args.at(i).ToLong();
