@@ -43,8 +43,8 @@ struct MainGlobals {
   std::string strToolName;
   std::shared_ptr<ListenerForm> fListenToLocal;
   std::shared_ptr<ListenerForm> fListenToAdmin;
-  std::unique_ptr<cExplorersEventClient> objExplorersClient;
-  std::unique_ptr<cInspectors> objInspectorsClient;
+  std::shared_ptr<cExplorersEventClient> objExplorersClient;
+  std::shared_ptr<cInspectors> objInspectorsClient;
   std::unique_ptr<OrderedDictionary<std::shared_ptr<cExplorerClient>>> colExplorerClients;
   Object objNameSpace;
   std::unique_ptr<cSingleList> colViewNames;
