@@ -59,12 +59,20 @@ class Client : public std::enable_shared_from_this<Client> {
   std::vector<std::string>& seen_;
 };
 
-TEST(EventField, AssigningAnotherObjectMovesTheSubscriptions) {
+// A client held by `holder`, watching `app`.
+class EventFieldTest : public ::testing::Test {
+ protected:
   RecordingSink sink;
   std::vector<std::string> seen;
   std::shared_ptr<Client> holder;
-  holder = std::make_shared<Client>(sink, holder, seen);
-  auto first = Application(), second = Application();
+  std::shared_ptr<sim::FakeObject> app = Application();
+
+  void SetUp() override { holder = std::make_shared<Client>(sink, holder, seen); }
+};
+
+TEST_F(EventFieldTest, AssigningAnotherObjectMovesTheSubscriptions) {
+  auto& first = app;
+  auto second = Application();
 
   holder->ouaMonitorApp.Set(first->AsObject());
   EXPECT_EQ(first->HandlerCount("Quit"), 1u);
@@ -83,12 +91,7 @@ TEST(EventField, AssigningAnotherObjectMovesTheSubscriptions) {
   EXPECT_TRUE(seen.empty());
 }
 
-TEST(EventField, AnObjectWithoutTheEventsLeavesTheFieldAsItWas) {
-  RecordingSink sink;
-  std::vector<std::string> seen;
-  std::shared_ptr<Client> holder;
-  holder = std::make_shared<Client>(sink, holder, seen);
-  auto app = Application();
+TEST_F(EventFieldTest, AnObjectWithoutTheEventsLeavesTheFieldAsItWas) {
   holder->ouaMonitorApp.Set(app->AsObject());
   auto mute = std::make_shared<sim::FakeObject>("Folder");
   EXPECT_THROW(holder->ouaMonitorApp.Set(mute->AsObject()), Failure);
@@ -96,22 +99,13 @@ TEST(EventField, AnObjectWithoutTheEventsLeavesTheFieldAsItWas) {
   EXPECT_EQ(app->HandlerCount("Quit"), 1u);
 }
 
-TEST(EventField, AnOwnerNotHeldBySharedPtrCannotSubscribe) {
-  RecordingSink sink;
-  std::vector<std::string> seen;
-  std::shared_ptr<Client> holder;
+TEST_F(EventFieldTest, AnOwnerNotHeldBySharedPtrCannotSubscribe) {
   Client unshared(sink, holder, seen);
-  auto app = Application();
   EXPECT_THROW(unshared.ouaMonitorApp.Set(app->AsObject()), Failure);
   EXPECT_EQ(app->HandlerCount("Quit"), 0u);
 }
 
-TEST(EventField, AHandlerRunsUnderItsTrapLabel) {
-  RecordingSink sink;
-  std::vector<std::string> seen;
-  std::shared_ptr<Client> holder;
-  holder = std::make_shared<Client>(sink, holder, seen);
-  auto app = Application();
+TEST_F(EventFieldTest, AHandlerRunsUnderItsTrapLabel) {
   holder->ouaMonitorApp.Set(app->AsObject());
   EventArgs args{Variant("not a number")};
   EXPECT_EQ(app->Raise("Close", args), 1u);  // the failure stays inside the handler
@@ -121,14 +115,9 @@ TEST(EventField, AHandlerRunsUnderItsTrapLabel) {
 }
 
 // Under AddressSanitizer a handler that outlived its owner's memory fails here.
-TEST(EventField, AnOwnerTornDownByItsOwnHandlerLivesUntilTheHandlerReturns) {
-  RecordingSink sink;
-  std::vector<std::string> seen;
-  std::shared_ptr<Client> holder;
-  holder = std::make_shared<Client>(sink, holder, seen);
+TEST_F(EventFieldTest, AnOwnerTornDownByItsOwnHandlerLivesUntilTheHandlerReturns) {
   const std::weak_ptr<Client> watch = holder;
   const std::string name = holder->name;
-  auto app = Application();
   holder->ouaMonitorApp.Set(app->AsObject());
 
   EXPECT_EQ(app->Raise("Quit"), 1u);
