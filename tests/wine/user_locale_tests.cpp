@@ -90,8 +90,14 @@ void CheckLocale(const LocaleCase& c) {
 WINE_TEST(UserLocale, German) {
   InUserLocale("de_DE.UTF-8", 0x0407, "UserLocale.German", [] {
     // Windows writes German dates with two-digit days and months; Wine's
-    // locale data does not, so the user's format says it here.
+    // locale data does not, so the user's format says it here, for this run.
+    wchar_t before[80] = {};
+    REQUIRE(GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, before, 80) > 0);
     REQUIRE(SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, L"dd.MM.yyyy"));
+    struct Restore {
+      const wchar_t* format;
+      ~Restore() { SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, format); }
+    } restore{before};
     CheckLocale({L"02.03.2026 09:05:07", L"31.02.2026 09:05:07", "09.03.2026 14:30:00"});
     // Numbers: a decimal comma; text the locale cannot read is a type mismatch.
     CHECK(Variant("1,5").ToDouble() == 1.5);
