@@ -2,9 +2,9 @@
 
 #include <optional>
 
-#include "addin/state.h"
 #include "core/text.h"
 #include "core/trap.h"
+#include "state/addin_state.h"
 
 namespace qvx::modRegistryEntry {
 namespace {
