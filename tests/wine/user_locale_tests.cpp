@@ -10,7 +10,6 @@
 #include <utility>
 #include <vector>
 
-#include "addin/state.h"
 #include "core/dates.h"
 #include "core/failure.h"
 #include "harness/check.h"
@@ -23,6 +22,7 @@
 #include "settings/my_settings.h"
 #include "sim/appointment.h"
 #include "sim/outlook.h"
+#include "state/addin_state.h"
 
 namespace qvx::winetest {
 namespace {
