@@ -5,6 +5,7 @@
 // process over the Windows platform and a simulated host.
 #include <windows.h>
 
+#include <cmath>
 #include <memory>
 #include <string>
 #include <utility>
@@ -51,6 +52,11 @@ struct LogicInProcess {
   cMySettings& settings() { return *s.main.objMySettings; }
 };
 
+// oleaut32 and the runtime's composition may differ in the last bits.
+bool SameSecond(DateValue a, DateValue b) {
+  return std::llround(a.serial * 86400.0) == std::llround(b.serial * 86400.0);
+}
+
 int32_t FailureNumber(void (*convert)()) {
   try {
     convert();
@@ -64,7 +70,7 @@ void CheckLocale(const LocaleCase& c) {
   const DateValue lastReported = ComposeDate({2026, 3, 2, 9, 5, 7});
   {
     LogicInProcess logic(Settings{{L"LastReported", c.lastReported}});
-    CHECK(logic.settings().LastReported == lastReported);
+    CHECK(SameSecond(logic.settings().LastReported, lastReported));
   }
   {
     // Text that is no date here leaves the value as it was, and nobody is told.
