@@ -91,7 +91,8 @@ class Define {
 };
 
 // Argument readers with the runtime's conversions (13 type mismatch, 6 overflow).
-// An omitted argument (Missing) counts as absent, as Empty does.
+// An argument left out (not passed, Empty, or Variant::Missing() in a gap)
+// is absent.
 inline bool HasArg(const Args& args, size_t i) {
   return i < args.size() && !args[i].IsEmpty() && !args[i].IsMissing();
 }
@@ -106,6 +107,12 @@ inline bool BoolArg(const Args& args, size_t i) {
 }
 inline int32_t LongArgOr(const Args& args, size_t i, int32_t fallback) {
   return HasArg(args, i) ? args[i].ToLong() : fallback;
+}
+inline std::string TextArgOr(const Args& args, size_t i, std::string fallback) {
+  return HasArg(args, i) ? args[i].ToText() : fallback;
+}
+inline bool BoolArgOr(const Args& args, size_t i, bool fallback) {
+  return HasArg(args, i) ? args[i].ToBoolean() : fallback;
 }
 
 }  // namespace qvx::sim

@@ -34,7 +34,7 @@ bool Walk(const std::shared_ptr<SimFolder>& folder,
 SimNameSpace::SimNameSpace(ContextPtr context, std::string mailboxName, std::string userName)
     : context_(std::move(context)),
       mailboxName_(std::move(mailboxName)),
-      categories_(std::make_shared<SimCategories>()),
+      categories_(std::make_shared<SimCategories>(context_)),
       currentUser_(std::make_shared<FakeObject>("Recipient")) {
   currentUser_->ReadOnly("Name", Variant(userName)).ReadOnly("Address", Variant(userName));
 }
@@ -45,18 +45,18 @@ void SimNameSpace::Init() {
                 static_cast<unsigned long long>(context_->nextStoreId++));
   root_ = MakeFolder(context_, mailboxName_, 0, storeId);
   root_->SetParent(shared_from_this());
-  stores_ = std::make_shared<SimFolders>(std::weak_ptr<SimFolder>());
+  stores_ = std::make_shared<SimFolders>(context_, std::weak_ptr<SimFolder>());
   stores_->Append(root_);
   const struct {
     int32_t kind;
     const char* name;
-  } defaults[] = {{kFolderDeletedItems, "Deleted Items"},
-                  {kFolderOutbox, "Outbox"},
-                  {kFolderSentMail, "Sent Items"},
-                  {kFolderInbox, "Inbox"},
-                  {kFolderCalendar, "Calendar"},
-                  {kFolderTasks, "Tasks"},
-                  {kFolderDrafts, "Drafts"}};
+  } defaults[] = {{host::olFolderDeletedItems, "Deleted Items"},
+                  {host::olFolderOutbox, "Outbox"},
+                  {host::olFolderSentMail, "Sent Items"},
+                  {host::olFolderInbox, "Inbox"},
+                  {host::olFolderCalendar, "Calendar"},
+                  {host::olFolderTasks, "Tasks"},
+                  {host::olFolderDrafts, "Drafts"}};
   for (const auto& d : defaults) {
     defaults_[d.kind] = root_->AddSubfolder(d.name, ItemTypeOfFolderKind(d.kind));
   }

@@ -14,22 +14,13 @@
 #include <string_view>
 #include <vector>
 
-#include "sim/sim_object.h"
+#include "core/host_constants.h"
+#include "sim/collection.h"
 
 namespace qvx::sim {
 
 class SimItem;
 class SimUserProperties;
-
-inline constexpr int32_t kOlText = 1;
-inline constexpr int32_t kOlNumber = 3;
-inline constexpr int32_t kOlDateTime = 5;
-inline constexpr int32_t kOlYesNo = 6;
-inline constexpr int32_t kOlDuration = 7;
-inline constexpr int32_t kOlKeywords = 11;
-inline constexpr int32_t kOlPercent = 12;
-inline constexpr int32_t kOlCurrency = 14;
-inline constexpr int32_t kOlInteger = 20;
 
 // The value as a property of `type` stores it; Failure 13 if it can't be.
 Variant ConvertToPropertyType(int32_t type, const Variant& value);
@@ -58,9 +49,10 @@ class SimUserProperty : public SimObject {
   std::weak_ptr<SimUserProperties> owner_;
 };
 
-class SimUserProperties : public SimObject {
+class SimUserProperties : public SimCollection<SimUserProperty> {
  public:
-  explicit SimUserProperties(std::weak_ptr<SimItem> item) : item_(std::move(item)) {}
+  SimUserProperties(ContextPtr context, std::weak_ptr<SimItem> item)
+      : SimCollection(std::move(context)), item_(std::move(item)) {}
   std::string TypeName() const override { return "UserProperties"; }
 
   std::shared_ptr<SimUserProperty> Find(std::string_view name) const;
@@ -70,15 +62,15 @@ class SimUserProperties : public SimObject {
   void Remove(const SimUserProperty& property);
   // Test side: the property's value, adding the property if need be.
   void Set(std::string_view name, int32_t type, const Variant& value);
-  const std::vector<std::shared_ptr<SimUserProperty>>& list() const { return properties_; }
 
  protected:
   const MemberTable& Members() const override;
-  std::vector<Variant> Elements() override;
+  Variant ParentObject() override;
+  // Nothing for a name that isn't there.
+  Variant ItemByKey(const Variant& key) override { return OrNothing(Find(key.ToText())); }
 
  private:
   std::weak_ptr<SimItem> item_;
-  std::vector<std::shared_ptr<SimUserProperty>> properties_;
 };
 
 }  // namespace qvx::sim
