@@ -11,10 +11,10 @@
 #include <string_view>
 #include <vector>
 
-#include "addin/state.h"
 #include "core/variant.h"
 #include "platform/platform.h"
 #include "ribbon/ribbon_callbacks.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

@@ -1,8 +1,8 @@
 #include "addin/explorers_event_client.h"
 
 #include "addin/inspectors_client.h"
-#include "addin/state.h"
 #include "commandbars/explorer_client.h"
+#include "state/addin_state.h"
 #include "support/host_items.h"
 #include "support/outlook_session.h"
 

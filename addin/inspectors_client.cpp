@@ -1,6 +1,6 @@
 #include "addin/inspectors_client.h"
 
-#include "addin/state.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

@@ -1,7 +1,7 @@
 // The main module: start-up and tear-down of the process-wide objects.
 #pragma once
 
-#include "addin/state.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

@@ -2,9 +2,9 @@
 // that only counts the forms shown (a failure report is one).
 #pragma once
 
-#include "addin/state.h"
 #include "platform/form_model.h"
 #include "sim/inert_platform.h"
+#include "state/addin_state.h"
 
 namespace qvx::bench {
 

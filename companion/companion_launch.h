@@ -8,7 +8,7 @@
 
 #include <cstdint>
 
-#include "addin/state.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

@@ -1,12 +1,12 @@
 #include "companion/listener_form.h"
 
 #include "addin/explorers_event_client.h"
-#include "addin/state.h"
 #include "companion/companion_launch.h"
 #include "companion/message_names.h"
 #include "companion/section_codes.h"
 #include "reporting/color_codes.h"
 #include "ribbon/ribbon_invalidation.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 namespace {

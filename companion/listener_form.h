@@ -13,8 +13,8 @@
 #include <memory>
 #include <string>
 
-#include "addin/loaded_form.h"
 #include "platform/message_windows.h"
+#include "state/loaded_form.h"
 
 namespace qvx {
 

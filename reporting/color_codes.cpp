@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "addin/state.h"
 #include "settings/tasks_per_project_list.h"
+#include "state/addin_state.h"
 #include "support/outlook_session.h"
 
 namespace qvx {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "addin/state.h"
 #include "core/variant.h"
+#include "state/addin_state.h"
 
 namespace qvx::Main {
 namespace {

@@ -10,7 +10,7 @@
 
 #include <string>
 
-#include "addin/state.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "addin/state.h"
 #include "core/failure.h"
 #include "core/text.h"
 #include "core/variant.h"
-#include "reporting/item_schema.h"
+#include "schema/item_schema.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 namespace {

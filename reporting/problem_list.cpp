@@ -1,7 +1,7 @@
 #include "reporting/problem_list.h"
 
-#include "addin/state.h"
 #include "platform/user_interface.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

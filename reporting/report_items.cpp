@@ -2,7 +2,6 @@
 
 #include <vector>
 
-#include "addin/state.h"
 #include "companion/command_lines.h"
 #include "companion/section_codes.h"
 #include "core/failure.h"
@@ -12,6 +11,7 @@
 #include "reporting/problem_list.h"
 #include "reporting/report_rules.h"
 #include "reporting/report_store.h"
+#include "state/addin_state.h"
 #include "support/app_texts.h"
 #include "support/file_module.h"
 #include "support/host_items.h"

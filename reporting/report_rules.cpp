@@ -2,11 +2,11 @@
 
 #include <array>
 
-#include "addin/state.h"
 #include "core/failure.h"
 #include "core/text.h"
 #include "reporting/default_values.h"
-#include "reporting/item_schema.h"
+#include "schema/item_schema.h"
+#include "state/addin_state.h"
 #include "support/mail_library.h"
 
 namespace qvx {

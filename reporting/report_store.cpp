@@ -1,8 +1,8 @@
 #include "reporting/report_store.h"
 
-#include "addin/state.h"
 #include "core/variant.h"
 #include "reporting/current_selection.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 namespace {

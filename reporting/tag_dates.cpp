@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "addin/state.h"
 #include "core/text.h"
-#include "reporting/item_schema.h"
+#include "schema/item_schema.h"
 #include "settings/tasks_per_project_list.h"
+#include "state/addin_state.h"
 
 namespace qvx::Actions {
 namespace {

@@ -2,11 +2,11 @@
 
 #include <string>
 
-#include "addin/state.h"
 #include "core/text.h"
 #include "core/variant.h"
-#include "reporting/item_schema.h"
 #include "reporting/tag_dates.h"
+#include "schema/item_schema.h"
+#include "state/addin_state.h"
 #include "support/host_items.h"
 #include "support/mail_library.h"
 

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "addin/state.h"
 #include "core/variant.h"
 #include "reporting/tag_item.h"
+#include "state/addin_state.h"
 
 namespace qvx::Actions {
 namespace {

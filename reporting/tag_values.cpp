@@ -3,12 +3,12 @@
 #include <memory>
 #include <string>
 
-#include "addin/state.h"
 #include "core/text.h"
 #include "reporting/current_selection.h"
-#include "reporting/item_schema.h"
 #include "reporting/tag_selection.h"
+#include "schema/item_schema.h"
 #include "settings/tasks_per_project_list.h"
+#include "state/addin_state.h"
 
 namespace qvx::Main {
 namespace {

@@ -3,8 +3,8 @@
 #include <array>
 #include <new>
 
-#include "addin/state.h"
 #include "core/text.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 namespace {

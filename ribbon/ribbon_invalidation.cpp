@@ -1,6 +1,6 @@
 #include "ribbon/ribbon_invalidation.h"
 
-#include "addin/state.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

@@ -12,7 +12,7 @@
 
 #include "core/failure.h"
 #include "core/variant.h"
-#include "reporting/value_codecs.h"
+#include "schema/value_codecs.h"
 
 namespace qvx::catalogue {
 

@@ -1,6 +1,6 @@
 #include "settings/combo_fill.h"
 
-#include "addin/state.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

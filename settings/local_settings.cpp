@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
-#include "addin/state.h"
 #include "core/trap.h"
 #include "core/variant.h"
 #include "settings/registry_entry.h"
+#include "state/addin_state.h"
 
 namespace qvx::modLocalSettings {
 namespace {

@@ -3,11 +3,11 @@
 #include <string_view>
 #include <vector>
 
-#include "addin/state.h"
 #include "core/dates.h"
 #include "core/text.h"
 #include "core/trap.h"
 #include "settings/registry_entry.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 namespace {

@@ -1,8 +1,8 @@
 #include "settings/project_client.h"
 
-#include "addin/state.h"
-#include "reporting/date_codecs.h"
+#include "schema/date_codecs.h"
 #include "settings/catalogue_text.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

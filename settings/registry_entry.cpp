@@ -1,8 +1,8 @@
 #include "settings/registry_entry.h"
 
-#include "addin/state.h"
 #include "core/text.h"
 #include "core/trap.h"
+#include "state/addin_state.h"
 
 namespace qvx::modRegistryEntry {
 namespace {

@@ -2,11 +2,11 @@
 
 #include <random>
 
-#include "addin/state.h"
 #include "core/text.h"
 #include "core/trap.h"
 #include "settings/combo_fill.h"
 #include "settings/scripting_sort.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 namespace {

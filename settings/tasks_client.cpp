@@ -1,8 +1,8 @@
 #include "settings/tasks_client.h"
 
-#include "addin/state.h"
 #include "settings/catalogue_text.h"
 #include "settings/project_client.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

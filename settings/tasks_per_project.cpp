@@ -2,14 +2,14 @@
 
 #include <vector>
 
-#include "addin/state.h"
 #include "core/text.h"
 #include "core/trap.h"
-#include "reporting/date_codecs.h"
-#include "reporting/value_codecs.h"
+#include "schema/date_codecs.h"
+#include "schema/value_codecs.h"
 #include "settings/catalogue_text.h"
 #include "settings/combo_fill.h"
 #include "settings/scripting_sort.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

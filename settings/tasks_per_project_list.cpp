@@ -2,12 +2,12 @@
 
 #include <vector>
 
-#include "addin/state.h"
 #include "core/text.h"
 #include "core/trap.h"
-#include "reporting/date_codecs.h"
-#include "reporting/value_codecs.h"
+#include "schema/date_codecs.h"
+#include "schema/value_codecs.h"
 #include "settings/catalogue_text.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

@@ -4,7 +4,7 @@
 #include "core/text.h"
 #include "core/variant.h"
 #include "platform/posix/posix_objects.h"
-#include "reporting/item_schema.h"
+#include "schema/item_schema.h"
 #include "support/mail_library.h"
 
 namespace qvx::sim {

@@ -1,7 +1,7 @@
 // The current action and the trace log. The log is off for good: nothing
 // sets the trace flag, so these only record the action text.
-#include "addin/state.h"
 #include "core/dates.h"
+#include "state/addin_state.h"
 #include "support/app_texts.h"
 #include "support/error_reporting.h"
 #include "support/file_module.h"

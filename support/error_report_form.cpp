@@ -1,7 +1,7 @@
 #include "support/error_report_form.h"
 
-#include "addin/state.h"
 #include "core/failure.h"
+#include "state/addin_state.h"
 #include "support/endpoints.h"
 #include "support/error_reporting.h"
 #include "support/file_module.h"

@@ -1,8 +1,8 @@
 // The central failure handler and the mailing of its report.
 #include "support/error_reporting.h"
 
-#include "addin/state.h"
 #include "platform/user_interface.h"
+#include "state/addin_state.h"
 #include "support/app_texts.h"
 #include "support/endpoints.h"
 #include "support/error_report_form.h"

@@ -1,8 +1,8 @@
 #include "support/file_module.h"
 
-#include "addin/state.h"
 #include "core/text.h"
 #include "platform/user_interface.h"
+#include "state/addin_state.h"
 #include "support/app_texts.h"
 #include "support/error_reporting.h"
 #include "support/outlook_session.h"

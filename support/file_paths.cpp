@@ -1,5 +1,5 @@
 // Path helpers and the shell open of modFileHandling and modGetDefaultFolders.
-#include "addin/state.h"
+#include "state/addin_state.h"
 #include "support/error_reporting.h"
 #include "support/file_module.h"
 

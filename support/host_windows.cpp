@@ -1,5 +1,5 @@
 // Tests of an appointment's occurrence and of the host's active window.
-#include "addin/state.h"
+#include "state/addin_state.h"
 #include "support/host_items.h"
 
 namespace qvx {

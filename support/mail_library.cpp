@@ -1,8 +1,8 @@
 #include "support/mail_library.h"
 
-#include "addin/state.h"
 #include "platform/user_interface.h"
-#include "reporting/item_schema.h"
+#include "schema/item_schema.h"
+#include "state/addin_state.h"
 #include "support/app_texts.h"
 #include "support/host_items.h"
 #include "support/outlook_session.h"

@@ -1,9 +1,9 @@
 #include "support/outlook_session.h"
 
 #include "addin/main_module.h"
-#include "addin/state.h"
 #include "core/text.h"
 #include "platform/user_interface.h"
+#include "state/addin_state.h"
 #include "support/app_texts.h"
 
 namespace qvx {

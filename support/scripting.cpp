@@ -1,6 +1,6 @@
 #include "support/scripting.h"
 
-#include "addin/state.h"
+#include "state/addin_state.h"
 #include "support/file_module.h"
 
 namespace qvx::Scripting {

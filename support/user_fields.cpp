@@ -1,6 +1,6 @@
 // Typed reading of an item's user-defined field.
-#include "addin/state.h"
 #include "core/dates.h"
+#include "state/addin_state.h"
 #include "support/host_items.h"
 
 namespace qvx {

@@ -1,7 +1,7 @@
 // The user's name: from the mailbox, else from the system.
 #include "addin/main_module.h"
-#include "addin/state.h"
 #include "core/text.h"
+#include "state/addin_state.h"
 #include "support/host_items.h"
 #include "support/outlook_session.h"
 

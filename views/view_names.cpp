@@ -1,7 +1,7 @@
 #include "views/view_names.h"
 
-#include "addin/state.h"
 #include "settings/single_list.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

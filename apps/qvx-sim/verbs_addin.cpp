@@ -1,8 +1,8 @@
 // addin connect / startup-complete / start / begin-shutdown / disconnect /
 // terminate / shutdown, expect addin STATE
-#include "addin/main_globals.h"
 #include "apps/qvx-sim/verbs.h"
 #include "apps/qvx-sim/world.h"
+#include "state/main_globals.h"
 
 namespace qvx::scenario {
 namespace {

@@ -1,9 +1,9 @@
 // catalogue set / expect projects / expect activities / expect catalogue
-#include "addin/main_globals.h"
 #include "apps/qvx-sim/verbs.h"
 #include "apps/qvx-sim/world.h"
 #include "core/text.h"
 #include "settings/my_settings.h"
+#include "state/main_globals.h"
 
 namespace qvx::scenario {
 namespace {

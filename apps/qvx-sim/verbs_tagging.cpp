@@ -5,7 +5,6 @@
 // the project colours.
 #include <ostream>
 
-#include "addin/state.h"
 #include "apps/qvx-sim/verbs.h"
 #include "apps/qvx-sim/world.h"
 #include "core/dates.h"
@@ -18,6 +17,7 @@
 #include "sim/item.h"
 #include "sim/items.h"
 #include "sim/user_properties.h"
+#include "state/addin_state.h"
 
 namespace qvx::scenario {
 namespace {

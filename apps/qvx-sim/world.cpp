@@ -8,7 +8,7 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "addin/main_globals.h"
+#include "state/main_globals.h"
 
 namespace qvx::scenario {
 namespace {

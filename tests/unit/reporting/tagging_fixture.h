@@ -11,7 +11,6 @@
 #include <string_view>
 #include <vector>
 
-#include "addin/state.h"
 #include "apps/qvx-sim/world.h"
 #include "core/dates.h"
 #include "sim/appointment.h"
@@ -19,6 +18,7 @@
 #include "sim/item.h"
 #include "sim/task_item.h"
 #include "sim/user_properties.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

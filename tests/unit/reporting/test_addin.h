@@ -10,12 +10,12 @@
 #include <string_view>
 #include <vector>
 
-#include "addin/state.h"
 #include "platform/posix/native_object.h"
 #include "platform/posix/posix_objects.h"
 #include "platform/posix/posix_system.h"
 #include "platform/posix/scripted_ui.h"
 #include "settings/my_settings.h"
+#include "state/addin_state.h"
 
 namespace qvx::testing {
 

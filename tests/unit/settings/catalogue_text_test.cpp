@@ -5,7 +5,7 @@
 #include <random>
 
 #include "catalogue_fixture.h"
-#include "reporting/value_codecs.h"
+#include "schema/value_codecs.h"
 
 namespace qvx {
 namespace {

@@ -11,10 +11,10 @@
 #include <string>
 #include <vector>
 
-#include "addin/state.h"
 #include "core/dates.h"
 #include "platform/posix/file_registry.h"
 #include "sim/inert_platform.h"
+#include "state/addin_state.h"
 
 namespace qvx::testing {
 

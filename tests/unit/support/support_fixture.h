@@ -10,11 +10,11 @@
 #include <filesystem>
 #include <string>
 
-#include "addin/state.h"
 #include "fake_outlook.h"
 #include "platform/posix/posix_objects.h"
 #include "platform/posix/posix_system.h"
 #include "platform/posix/scripted_ui.h"
+#include "state/addin_state.h"
 
 namespace qvx::testing {
 

@@ -1,4 +1,4 @@
-#include "addin/main_globals.h"
+#include "state/main_globals.h"
 
 #include "addin/explorers_event_client.h"
 #include "addin/inspectors_client.h"

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "addin/loaded_form.h"
 #include "core/object.h"
 #include "core/ordered_dictionary.h"
 #include "settings/my_settings.h"
+#include "state/loaded_form.h"
 
 namespace qvx {
 

@@ -1,4 +1,4 @@
-#include "reporting/date_codecs.h"
+#include "schema/date_codecs.h"
 
 #include <vector>
 

@@ -11,9 +11,9 @@
 #include <string>
 #include <string_view>
 
-#include "addin/state.h"
 #include "core/dates.h"
 #include "core/variant.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

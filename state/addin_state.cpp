@@ -1,4 +1,4 @@
-#include "addin/state.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 

@@ -9,13 +9,13 @@
 #include <functional>
 #include <memory>
 
-#include "addin/main_globals.h"
-#include "companion/companion_state.h"
 #include "core/trap.h"
 #include "platform/platform.h"
-#include "reporting/report_state.h"
-#include "reporting/tagging_state.h"
-#include "support/support_state.h"
+#include "state/companion_state.h"
+#include "state/main_globals.h"
+#include "state/report_state.h"
+#include "state/support_state.h"
+#include "state/tagging_state.h"
 
 namespace qvx {
 

@@ -1,4 +1,4 @@
-#include "reporting/value_codecs.h"
+#include "schema/value_codecs.h"
 
 #include "core/text.h"
 
