@@ -278,8 +278,8 @@ TEST(FileRegistry, TheMachineHiveIsASecondFileBesideTheUsersOwn) {
   uint32_t type = 0;
   ASSERT_EQ(registry.QueryValueA(machineKey.get(), "path", type, buffer), kErrorSuccess);
   EXPECT_EQ(type, kRegSz);
-  EXPECT_EQ(buffer, std::string("C:\\msinfo32.exe", 16) + '\0');
-  std::string small(16, '\0');  // no room for the terminator
+  EXPECT_EQ(buffer, std::string("C:\\msinfo32.exe") + '\0');
+  std::string small(15, '\0');  // no room for the terminator
   EXPECT_EQ(registry.QueryValueA(machineKey.get(), "PATH", type, small), kErrorMoreData);
   EXPECT_EQ(registry.Open(Hive::CurrentUser, Utf8ToUtf16(key), kKeyRead).result,
             kErrorFileNotFound);
