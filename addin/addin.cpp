@@ -1,11 +1,14 @@
 #include "addin/addin.h"
 
 #include "addin/main_module.h"
+#include "addin/upward_calls.h"
 
 namespace qvx {
 
 QVXClientAddin::QVXClientAddin(platform::Platform platform)
-    : state_(std::make_unique<AddinState>(platform)) {}
+    : state_(std::make_unique<AddinState>(platform)) {
+  ConnectUpwardCalls(*state_);
+}
 
 QVXClientAddin::~QVXClientAddin() = default;
 

@@ -8,6 +8,8 @@
 #include "companion/companion_launch.h"
 #include "companion/listener_form.h"
 #include "companion/section_codes.h"
+#include "core/host_constants.h"
+#include "settings/my_settings.h"
 #include "settings/single_list.h"
 #include "support/file_module.h"
 #include "support/mail_library.h"
@@ -40,8 +42,9 @@ void StartingPoint(AddinState& s, bool& blnRestart) {
     line = 50;
     s.main.objExplorersClient = std::make_unique<cExplorersEventClient>(s);
     line = 60;
-    ShowDefaultFolder(s,
-                      kFolderCalendar);  // the calendar, when the host started without an explorer
+    ShowDefaultFolder(
+        s,
+        host::olFolderCalendar);  // the calendar, when the host started without an explorer
     line = 70;
     subLoadViewNames(s);
     line = 80;

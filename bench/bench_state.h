@@ -2,6 +2,7 @@
 // that only counts the forms shown (a failure report is one).
 #pragma once
 
+#include "addin/upward_calls.h"
 #include "platform/form_model.h"
 #include "sim/inert_platform.h"
 #include "state/addin_state.h"
@@ -19,6 +20,8 @@ using sim::InertSystem;
 using sim::NoObjects;
 
 struct BenchState {
+  BenchState() { ConnectUpwardCalls(s); }
+
   CountingUi ui;
   InertSystem system;
   NoObjects objects;

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "addin/upward_calls.h"
 #include "bench_state.h"
 #include "core/dates.h"
 #include "platform/posix/posix_system.h"
@@ -31,6 +32,7 @@ platform::PosixSystemOptions Recording() {
 // appointments selected, the catalogue holding `projects` projects.
 struct TaggingWorld {
   TaggingWorld(int count, int projects) : system(Recording()) {
+    ConnectUpwardCalls(s);
     s.main.objOutlook = host.Application();
     s.main.objNameSpace = host.Application().Get("Session").ToObject();
     system.SetDoEventsHook([this] { host.Pending().RunPending(); });
@@ -80,7 +82,7 @@ BENCHMARK(BM_TagSelection)->Arg(10)->Arg(1000)->Unit(benchmark::kMillisecond);
 void BM_TagProjectValue(benchmark::State& state) {
   TaggingWorld world(static_cast<int>(state.range(0)), 1);
   for (auto _ : state) {
-    world.s.tagging.SELECTED_ACTIVITY_VALUE = "Build";
+    world.s.ribbon.explorer.SELECTED_ACTIVITY_VALUE = "Build";
     Main::TagProjectValueToItem(world.s, "Alpha");
   }
   if (!world.Clean()) state.SkipWithError("a failure was reported");

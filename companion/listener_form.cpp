@@ -1,11 +1,9 @@
 #include "companion/listener_form.h"
 
-#include "addin/explorers_event_client.h"
 #include "companion/companion_launch.h"
 #include "companion/message_names.h"
 #include "companion/section_codes.h"
-#include "reporting/color_codes.h"
-#include "ribbon/ribbon_invalidation.h"
+#include "settings/my_settings.h"
 #include "state/addin_state.h"
 
 namespace qvx {
@@ -61,7 +59,7 @@ void ListenerForm::subPassWMToken(int32_t& lngValue) noexcept {
         line = 20;
         s.main.Settings().ReadSettings(s);
         line = 30;
-        subInvalidateRibbon(s);
+        s.upward().subInvalidateRibbon();
       }
       return;
     }
@@ -70,9 +68,9 @@ void ListenerForm::subPassWMToken(int32_t& lngValue) noexcept {
         line = 40;
         s.main.Settings().ReadSettings(s);
         line = 50;
-        if (s.main.objExplorersClient) s.main.objExplorersClient->UpdateAllDisplayedToolbars();
+        s.upward().UpdateAllDisplayedToolbars();
         line = 60;
-        LoadProjectColorCodesToOutlook(s);
+        s.upward().LoadProjectColorCodesToOutlook();
         break;
       case 1:
         line = 70;
@@ -80,7 +78,7 @@ void ListenerForm::subPassWMToken(int32_t& lngValue) noexcept {
         break;
       case 2:
         line = 80;
-        if (s.main.objExplorersClient) s.main.objExplorersClient->UpdateAllDisplayedToolbars();
+        s.upward().UpdateAllDisplayedToolbars();
         break;
       default:
         break;

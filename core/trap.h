@@ -20,8 +20,10 @@
 #include <cstdint>
 #include <exception>
 #include <new>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 #include "core/failure.h"
@@ -132,12 +134,33 @@ bool IgnoreFailure(ErrorState& err, Statement&& statement) noexcept {
   }
 }
 
-// Runs a stretch that may fail harmlessly and whose failure no one tests
-// (a release at tear-down, say); the pending error is left cleared.
+// IgnoreFailure that also notes the statement number of a failure in the
+// pending error, for the boxes that show the failing line.
 template <class Statement>
-void Quietly(ErrorState& err, Statement&& statement) noexcept {
-  IgnoreFailure(err, std::forward<Statement>(statement));
-  err.Clear();
+bool IgnoreFailureAt(ErrorState& err, int line, Statement&& statement) noexcept {
+  if (IgnoreFailure(err, std::forward<Statement>(statement))) return true;
+  err.line = line;
+  return false;
+}
+
+// Runs a stretch that may fail harmlessly and whose failure no one tests
+// (a release at tear-down, say); the pending error is left cleared. A
+// statement that gives a value gives it as an optional, empty on a failure:
+//
+//   Quietly(err, [&] { list.reset(); });
+//   const int32_t count = Quietly(err, [&] { return c.Get("Count").ToLong(); }).value_or(0);
+template <class Statement>
+auto Quietly(ErrorState& err, Statement&& statement) noexcept {
+  using Result = std::invoke_result_t<Statement&>;
+  if constexpr (std::is_void_v<Result>) {
+    IgnoreFailure(err, statement);
+    err.Clear();
+  } else {
+    std::optional<std::decay_t<Result>> result;
+    IgnoreFailure(err, [&] { result.emplace(statement()); });
+    err.Clear();
+    return result;
+  }
 }
 
 }  // namespace qvx

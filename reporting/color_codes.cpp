@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "core/host_constants.h"
+#include "settings/my_settings.h"
 #include "settings/tasks_per_project_list.h"
 #include "state/addin_state.h"
 #include "support/outlook_session.h"
@@ -34,7 +36,7 @@ void LoadProjectColorCodesToOutlook(AddinState& s) noexcept {
     line = 20;
     if (GetVersion(s) < 12) return;  // categories with colours came with version 12
     line = 30;
-    if (s.main.objNameSpace.IsNothing()) EnsureOutlookSession(s, kFolderInbox);
+    if (s.main.objNameSpace.IsNothing()) EnsureOutlookSession(s, host::olFolderInbox);
     if (s.main.objNameSpace.IsNothing()) return;
     line = 40;
     if (settings.MyProjectsTasks->dicList.Count() == 0) return;

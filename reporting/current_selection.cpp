@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/absence.h"
 #include "core/variant.h"
 #include "state/addin_state.h"
 
@@ -9,33 +10,26 @@ namespace qvx::Main {
 namespace {
 
 // Each read may fail when the window or the item has gone meanwhile; a
-// failure leaves the object Nothing, which the next step tests.
-Object ObjectOf(ErrorState& err, const Object& from, const char* member) {
-  Object result;
-  IgnoreFailure(err, [&] { result = from.Get(member).ToObject(); });
-  return result;
+// failure leaves the object Nothing (or the count 0), which the next step tests.
+Object ActiveWindow(AddinState& s) {
+  return QuietObject(s.err, [&] { return s.main.objOutlook.Get("ActiveWindow"); });
 }
 
-std::string TypeNameOf(ErrorState& err, const Object& object) {
-  std::string name;
-  IgnoreFailure(err, [&] { name = object.TypeName(); });
-  return name;
-}
-
-int32_t CountOf(ErrorState& err, const Object& selection) {
-  int32_t count = 0;
-  IgnoreFailure(err, [&] { count = selection.Get("Count").ToLong(); });
-  return count;
-}
-
-Object FirstOf(ErrorState& err, const Object& selection) {
-  Object item;
-  IgnoreFailure(err, [&] { item = selection.Call("Item", {Variant(int32_t{1})}).ToObject(); });
-  return item;
+std::string TypeNameOf(AddinState& s, const Object& window) {
+  return Quietly(s.err, [&] { return window.TypeName(); }).value_or(std::string());
 }
 
 Object ActiveSelection(AddinState& s) {
-  return ObjectOf(s.err, ObjectOf(s.err, s.main.objOutlook, "ActiveExplorer"), "Selection");
+  return QuietObject(
+      s.err, [&] { return s.main.objOutlook.Get("ActiveExplorer").ToObject().Get("Selection"); });
+}
+
+int32_t CountOf(AddinState& s, const Object& selection) {
+  return Quietly(s.err, [&] { return selection.Get("Count").ToLong(); }).value_or(0);
+}
+
+Object FirstOf(AddinState& s, const Object& selection) {
+  return QuietObject(s.err, [&] { return selection.Call("Item", {Variant(int32_t{1})}); });
 }
 
 }  // namespace
@@ -43,19 +37,20 @@ Object ActiveSelection(AddinState& s) {
 Object GetCurrentSelectedItem(AddinState& s, bool blnMultiple) noexcept {
   Object result;
   IgnoreFailure(s.err, [&] {
-    const Object window = ObjectOf(s.err, s.main.objOutlook, "ActiveWindow");
+    const Object window = ActiveWindow(s);
     s.report.blnLastItemFromInspector = false;
     if (window.IsNothing()) return;
-    const std::string kind = TypeNameOf(s.err, window);
+    const std::string kind = TypeNameOf(s, window);
     if (kind == "Explorer") {
       const Object selection = ActiveSelection(s);
-      const int32_t count = CountOf(s.err, selection);
+      const int32_t count = CountOf(s, selection);
       if (count == 0) return;
-      result = (count > 1 && blnMultiple) ? selection : FirstOf(s.err, selection);
+      result = (count > 1 && blnMultiple) ? selection : FirstOf(s, selection);
     } else if (kind == "Inspector") {
       s.report.blnLastItemFromInspector = true;
-      result =
-          ObjectOf(s.err, ObjectOf(s.err, s.main.objOutlook, "ActiveInspector"), "CurrentItem");
+      result = QuietObject(s.err, [&] {
+        return s.main.objOutlook.Get("ActiveInspector").ToObject().Get("CurrentItem");
+      });
     }
   });
   s.err.Clear();
@@ -65,10 +60,10 @@ Object GetCurrentSelectedItem(AddinState& s, bool blnMultiple) noexcept {
 Object GetCurrentSelectedItemExplorer(AddinState& s) noexcept {
   Object result;
   IgnoreFailure(s.err, [&] {
-    const Object window = ObjectOf(s.err, s.main.objOutlook, "ActiveWindow");
-    if (window.IsNothing() || TypeNameOf(s.err, window) != "Explorer") return;
+    const Object window = ActiveWindow(s);
+    if (window.IsNothing() || TypeNameOf(s, window) != "Explorer") return;
     const Object selection = ActiveSelection(s);
-    if (CountOf(s.err, selection) > 0) result = FirstOf(s.err, selection);
+    if (CountOf(s, selection) > 0) result = FirstOf(s, selection);
   });
   s.err.Clear();
   return result;

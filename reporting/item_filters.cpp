@@ -3,20 +3,14 @@
 #include <string>
 
 #include "core/failure.h"
+#include "core/host_constants.h"
 #include "core/text.h"
 #include "core/variant.h"
 #include "schema/item_schema.h"
+#include "settings/my_settings.h"
 #include "state/addin_state.h"
 
 namespace qvx {
-namespace {
-
-constexpr int32_t olAppointmentItem = 1;
-constexpr int32_t olFolderCalendar = 9;
-constexpr int32_t olFolderTasks = 13;
-
-}  // namespace
-
 bool IsSupportMessageClass(AddinState& s, const Object& objItem) noexcept {
   return TrappedResult<bool>(s, "Main.IsSupportMessageClass", [&](Line& line, bool& result) {
     line = 10;
@@ -37,19 +31,20 @@ bool IsDefaultFolder(AddinState& s, const Object& objFolder) noexcept {
     const cMySettings& settings = s.main.Settings();
     bool restricted = false;
     Object defaultFolder;
-    if (objFolder.Get("DefaultItemType").ToLong() == olAppointmentItem) {
+    if (objFolder.Get("DefaultItemType").ToLong() == host::olAppointmentItem) {
       line = 20;
       if (settings.UseDefaultCalendarFolderOnly != 0) {
         restricted = true;
         defaultFolder =
-            s.main.objNameSpace.Call("GetDefaultFolder", {Variant(olFolderCalendar)}).ToObject();
+            s.main.objNameSpace.Call("GetDefaultFolder", {Variant(host::olFolderCalendar)})
+                .ToObject();
       }
     } else {
       line = 30;
       if (settings.UseDefaultTaskFolderOnly != 0) {
         restricted = true;
         defaultFolder =
-            s.main.objNameSpace.Call("GetDefaultFolder", {Variant(olFolderTasks)}).ToObject();
+            s.main.objNameSpace.Call("GetDefaultFolder", {Variant(host::olFolderTasks)}).ToObject();
       }
     }
     line = 40;

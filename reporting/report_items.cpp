@@ -11,6 +11,7 @@
 #include "reporting/problem_list.h"
 #include "reporting/report_rules.h"
 #include "reporting/report_store.h"
+#include "settings/my_settings.h"
 #include "state/addin_state.h"
 #include "support/app_texts.h"
 #include "support/file_module.h"

@@ -3,16 +3,16 @@
 #include <array>
 
 #include "core/failure.h"
+#include "core/host_constants.h"
 #include "core/text.h"
 #include "reporting/default_values.h"
 #include "schema/item_schema.h"
+#include "settings/my_settings.h"
 #include "state/addin_state.h"
 #include "support/mail_library.h"
 
 namespace qvx {
 namespace {
-
-constexpr int32_t olPrivate = 2;
 
 // One of the twelve mandatory tests.
 struct MandatoryTest {
@@ -72,7 +72,7 @@ bool Wanted(const cMySettings& c, size_t i, std::string& label) {
 
 bool IsPrivateAllowed(AddinState& s, const Object& objItem) {
   // Both sides are always evaluated: the item is read even when private items pass.
-  const bool isPrivate = objItem.Get("Sensitivity").ToLong() == olPrivate;
+  const bool isPrivate = objItem.Get("Sensitivity").ToLong() == host::olPrivate;
   return !(isPrivate && s.main.Settings().AllowPrivate == 0);
 }
 

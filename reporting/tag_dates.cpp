@@ -4,6 +4,7 @@
 
 #include "core/text.h"
 #include "schema/item_schema.h"
+#include "settings/my_settings.h"
 #include "settings/tasks_per_project_list.h"
 #include "state/addin_state.h"
 

@@ -6,6 +6,7 @@
 #include "core/variant.h"
 #include "reporting/tag_dates.h"
 #include "schema/item_schema.h"
+#include "settings/my_settings.h"
 #include "state/addin_state.h"
 #include "support/host_items.h"
 #include "support/mail_library.h"
@@ -27,7 +28,7 @@ Object FindOrAddProperty(AddinState& s, const Object& objItem, std::string_view 
     if (property.IsNothing()) {
       IgnoreFailure(s.err, [&] {
         const Variant added =
-            properties.Call("Add", {Variant(strProperty), Variant(schema::olText), Variant(true)});
+            properties.Call("Add", {Variant(strProperty), Variant(host::olText), Variant(true)});
         if (added.IsObject()) property = added.ToObject();
       });
     }

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "core/absence.h"
 #include "core/variant.h"
 #include "reporting/tag_item.h"
 #include "state/addin_state.h"
@@ -9,17 +10,13 @@
 namespace qvx::Actions {
 namespace {
 
-// `value` as an object; Nothing for anything else.
-Object AsObject(const Variant& value) {
-  return value.IsObject() ? value.ToObject() : Object();
-}
-
 // The one selected item, tagged only while it is still the item the caller
 // noted. False when the selection has moved on.
 bool TagSingleSelected(AddinState& s, const Object& selection, std::string_view strProperty,
                        std::string_view strValue, std::string_view strEntryID) {
   Object item;
-  IgnoreFailure(s.err, [&] { item = AsObject(selection.Call("Item", {Variant(int32_t{1})})); });
+  IgnoreFailure(s.err,
+                [&] { item = ObjectOrNothing(selection.Call("Item", {Variant(int32_t{1})})); });
   if (item) {
     std::string entryId;
     // An item whose identity can't be read any more has gone: leave it alone.
@@ -39,7 +36,7 @@ bool GetCurrentSelectedItem(AddinState& s, std::string_view strProperty, std::st
   return TrappedResult<bool>(s, "Actions.GetCurrentSelectedItem", [&](Line& line, bool& result) {
     line = 10;
     Object window;
-    IgnoreFailure(s.err, [&] { window = AsObject(s.main.objOutlook.Get("ActiveWindow")); });
+    IgnoreFailure(s.err, [&] { window = ObjectOrNothing(s.main.objOutlook.Get("ActiveWindow")); });
     s.err.Clear();
     if (window.IsNothing()) return;
     line = 20;
@@ -48,7 +45,8 @@ bool GetCurrentSelectedItem(AddinState& s, std::string_view strProperty, std::st
       line = 30;
       Object item;
       IgnoreFailure(s.err, [&] {
-        item = AsObject(s.main.objOutlook.Get("ActiveInspector").ToObject().Get("CurrentItem"));
+        item =
+            ObjectOrNothing(s.main.objOutlook.Get("ActiveInspector").ToObject().Get("CurrentItem"));
       });
       s.err.Clear();
       line = 40;
@@ -69,7 +67,7 @@ bool GetCurrentSelectedItem(AddinState& s, std::string_view strProperty, std::st
           // Host events and window messages may run here, a selection change among them.
           s.system().DoEvents();
           line = 100;
-          TagProjectToItem(s, AsObject(each), strProperty, strValue, true);
+          TagProjectToItem(s, ObjectOrNothing(each), strProperty, strValue, true);
         }
       }
     }

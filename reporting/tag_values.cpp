@@ -7,6 +7,7 @@
 #include "reporting/current_selection.h"
 #include "reporting/tag_selection.h"
 #include "schema/item_schema.h"
+#include "settings/my_settings.h"
 #include "settings/tasks_per_project_list.h"
 #include "state/addin_state.h"
 
@@ -40,10 +41,10 @@ void TagProjectValueToItem(AddinState& s, std::string_view strValue) noexcept {
       std::shared_ptr<cTasksPerProject> activities;
       if (const auto* found = settings.MyProjectsTasks->dicList.Find(project)) activities = *found;
       line = 60;
-      if (activities && !activities->dicList.Exists(tagging.SELECTED_ACTIVITY_VALUE)) {
+      if (activities && !activities->dicList.Exists(s.ribbon.explorer.SELECTED_ACTIVITY_VALUE)) {
         // The chosen activity doesn't belong to the new project.
         Actions::GetCurrentSelectedItem(s, schema::kActivityValue, "", entryId);
-        tagging.SELECTED_ACTIVITY_VALUE.clear();
+        s.ribbon.explorer.SELECTED_ACTIVITY_VALUE.clear();
       }
     }
     line = 70;
@@ -51,7 +52,7 @@ void TagProjectValueToItem(AddinState& s, std::string_view strValue) noexcept {
     line = 80;
     if (strValue.empty()) {
       Actions::GetCurrentSelectedItem(s, schema::kActivityValue, "", entryId);
-      tagging.SELECTED_ACTIVITY_VALUE.clear();
+      s.ribbon.explorer.SELECTED_ACTIVITY_VALUE.clear();
     }
     line = 90;
     tagging.blnTaggingInProgress = false;

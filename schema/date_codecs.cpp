@@ -10,7 +10,7 @@ bool IsNoDateYear(int year) noexcept {
   return year == 1899 || year == 4501 || year == 1;
 }
 
-std::string ToQuorvixDateFormat(AddinState& s, const Variant& date) {
+std::string ToQuorvixDateFormat(FailureSink& s, const Variant& date) {
   return TrappedResult<std::string>(
       s, "Global.ToQuorvixDateFormat", [&](Line& line, std::string& out) {
         line = 10;
@@ -20,12 +20,12 @@ std::string ToQuorvixDateFormat(AddinState& s, const Variant& date) {
       });
 }
 
-std::string DateToQuorvixText(AddinState& s, const DateValue& date) {
+std::string DateToQuorvixText(FailureSink& s, const DateValue& date) {
   if (IsNoDateYear(DecomposeDate(date).year)) return {};
   return ToQuorvixDateFormat(s, date);
 }
 
-DateValue FromQuorvixDateFormat(AddinState& s, std::string_view text) {
+DateValue FromQuorvixDateFormat(FailureSink& s, std::string_view text) {
   return TrappedResult<DateValue>(
       s, "Global.FromQuorvixDateFormat", [&](Line& line, DateValue& out) {
         line = 10;
@@ -38,14 +38,14 @@ DateValue FromQuorvixDateFormat(AddinState& s, std::string_view text) {
         line = 40;
         // Parts that are no numbers, or a date out of the runtime's range,
         // leave the zero date.
-        Quietly(s.err, [&] {
+        Quietly(s.Err(), [&] {
           out = DateSerial(Variant(parts[0]).ToInteger(), Variant(parts[1]).ToInteger(),
                            Variant(parts[2]).ToInteger());
         });
       });
 }
 
-DateValue TextToDate(AddinState& s, const std::string& text) {
+DateValue TextToDate(FailureSink& s, const std::string& text) {
   return FromQuorvixDateFormat(s, text);
 }
 

@@ -12,25 +12,25 @@
 #include <string_view>
 
 #include "core/dates.h"
+#include "core/trap.h"
 #include "core/variant.h"
-#include "state/addin_state.h"
 
 namespace qvx {
 
 // The value as a date, written without padding. A value that is no date is
 // reported under "Global.ToQuorvixDateFormat" and gives "".
-std::string ToQuorvixDateFormat(AddinState& s, const Variant& date);
+std::string ToQuorvixDateFormat(FailureSink& s, const Variant& date);
 
 // "" for a date of the years 1899, 4501 or 1; otherwise ToQuorvixDateFormat.
-std::string DateToQuorvixText(AddinState& s, const DateValue& date);
+std::string DateToQuorvixText(FailureSink& s, const DateValue& date);
 
 // Reads "year-month-day" (padding allowed, extra parts ignored, a month or day
 // out of range rolling over). Blank text, fewer than three parts or parts that
 // are no numbers give the zero date. Trap label "Global.FromQuorvixDateFormat".
-DateValue FromQuorvixDateFormat(AddinState& s, std::string_view text);
+DateValue FromQuorvixDateFormat(FailureSink& s, std::string_view text);
 
 // The by-reference form of FromQuorvixDateFormat used by the lists.
-DateValue TextToDate(AddinState& s, const std::string& text);
+DateValue TextToDate(FailureSink& s, const std::string& text);
 
 // True for the years that mean no date: 1899, 4501 and 1.
 bool IsNoDateYear(int year) noexcept;

@@ -13,15 +13,9 @@
 #include <cstdint>
 #include <string_view>
 
+#include "core/host_constants.h"
+
 namespace qvx::schema {
-
-// The host's OlUserPropertyType values used here.
-inline constexpr int32_t olText = 1;
-inline constexpr int32_t olDateTime = 5;
-inline constexpr int32_t olYesNo = 6;
-
-// The named-property set of public strings, where the host keeps user fields.
-inline constexpr std::string_view kPublicStringsGuid = "{00020329-0000-0000-C000-000000000046}";
 
 // Written by the add-in.
 inline constexpr std::string_view kProjectValue = "ProjectValue";
@@ -61,22 +55,22 @@ constexpr std::string_view FieldValueName(int n) {
 // The typed user properties, in table order. Field9Value and Field10Value are
 // not here: they have no declared type and are never provisioned on folders.
 inline constexpr std::array<UserPropertyDef, 16> kTypedUserProperties{{
-    {kProjectValue, olText},
-    {kActivityValue, olText},
-    {kField1Value, olText},
-    {kField2Value, olText},
-    {kField3Value, olText},
-    {kField4Value, olText},
-    {kField5Value, olText},
-    {kField6Value, olText},
-    {kField7Value, olText},
-    {kField8Value, olText},
-    {kReportedDate, olDateTime},
-    {kReportedDateText, olText},
-    {kReportedID, olText},
-    {kReportedIDHidden, olText},
-    {kReported, olYesNo},
-    {kReportedBy, olText},
+    {kProjectValue, host::olText},
+    {kActivityValue, host::olText},
+    {kField1Value, host::olText},
+    {kField2Value, host::olText},
+    {kField3Value, host::olText},
+    {kField4Value, host::olText},
+    {kField5Value, host::olText},
+    {kField6Value, host::olText},
+    {kField7Value, host::olText},
+    {kField8Value, host::olText},
+    {kReportedDate, host::olDateTime},
+    {kReportedDateText, host::olText},
+    {kReportedID, host::olText},
+    {kReportedIDHidden, host::olText},
+    {kReported, host::olYesNo},
+    {kReportedBy, host::olText},
 }};
 
 // Item classes, tested by substring on the upper-cased MessageClass.

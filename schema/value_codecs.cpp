@@ -4,7 +4,7 @@
 
 namespace qvx {
 
-std::string EncodeValue(AddinState& s, const Variant& value) {
+std::string EncodeValue(FailureSink& s, const Variant& value) {
   return TrappedResult<std::string>(s, "Global.EncodeValue", [&](Line& line, std::string& out) {
     line = 10;
     std::string text = value.ToText();
@@ -17,7 +17,7 @@ std::string EncodeValue(AddinState& s, const Variant& value) {
   });
 }
 
-std::string DecodeValue(AddinState& s, const Variant& value) {
+std::string DecodeValue(FailureSink& s, const Variant& value) {
   return TrappedResult<std::string>(s, "Global.DecodeValue", [&](Line& line, std::string& out) {
     line = 10;
     std::string text = value.ToText();

@@ -12,18 +12,18 @@
 
 #include <string>
 
+#include "core/trap.h"
 #include "core/variant.h"
-#include "state/addin_state.h"
 
 namespace qvx {
 
 // Converts the value to text, then replaces ":", ";", "," in that order.
 // A failure (a value with no text form) is reported under
 // "Global.EncodeValue" and gives "".
-std::string EncodeValue(AddinState& s, const Variant& value);
+std::string EncodeValue(FailureSink& s, const Variant& value);
 
 // Replaces "_COLON_", "_SCOLON_", "_COMMA_" in that order. Reported under
 // "Global.DecodeValue"; gives "" on a failure.
-std::string DecodeValue(AddinState& s, const Variant& value);
+std::string DecodeValue(FailureSink& s, const Variant& value);
 
 }  // namespace qvx

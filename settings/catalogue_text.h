@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/failure.h"
+#include "core/trap.h"
 #include "core/variant.h"
 #include "schema/value_codecs.h"
 
@@ -35,14 +36,14 @@ T& Require(const std::shared_ptr<T>& object) {
 
 // EncodeValue of a name or date text. A text without ":", ";" or "," encodes
 // to itself.
-inline std::string Encoded(AddinState& s, const std::string& text) {
+inline std::string Encoded(FailureSink& s, const std::string& text) {
   if (text.find_first_of(":;,") == std::string::npos) return text;
   return EncodeValue(s, Variant(text));
 }
 
 // DecodeValue of a field. A field without "_" holds no token and decodes to
 // itself, which spares the three replacements on most names and dates.
-inline std::string Decoded(AddinState& s, const std::string& field) {
+inline std::string Decoded(FailureSink& s, const std::string& field) {
   if (field.find('_') == std::string::npos) return field;
   return DecodeValue(s, Variant(field));
 }

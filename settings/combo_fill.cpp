@@ -1,35 +1,34 @@
 #include "settings/combo_fill.h"
 
-#include "state/addin_state.h"
-
 namespace qvx {
 
-void SelectComboValue(AddinState& s, Line& line, const Object& Control, const std::string& shown,
+void SelectComboValue(FailureSink& s, Line& line, const Object& Control, const std::string& shown,
                       std::string& Value) {
   line = 50;
   if (!shown.empty()) Value = shown;  // the text the control showed wins
   line = 60;
   if (Value.empty()) return;
-  bool failed = !IgnoreFailure(s.err, [&] { Control.Put("Text", Variant(Value)); });
+  bool failed = !IgnoreFailure(s.Err(), [&] { Control.Put("Text", Variant(Value)); });
   if (!shown.empty()) {
-    failed = !IgnoreFailure(s.err, [&] { Control.Put("Text", Variant(shown)); }) || failed;
+    failed = !IgnoreFailure(s.Err(), [&] { Control.Put("Text", Variant(shown)); }) || failed;
   }
   if (failed) {
     // A control whose text is read-only: select the row instead.
-    s.err.Clear();
+    s.Err().Clear();
     int32_t count = 0;
-    if (IgnoreFailure(s.err, [&] { count = Control.Get("ListCount").ToLong(); })) {
+    if (IgnoreFailure(s.Err(), [&] { count = Control.Get("ListCount").ToLong(); })) {
       for (int32_t i = 0; i <= count; ++i) {
         bool equal = false;
-        IgnoreFailure(s.err, [&] { equal = Control.Get("List", {Variant(i)}).ToText() == Value; });
+        IgnoreFailure(s.Err(),
+                      [&] { equal = Control.Get("List", {Variant(i)}).ToText() == Value; });
         if (equal) {
-          IgnoreFailure(s.err, [&] { Control.Put("ListIndex", Variant(i)); });
+          IgnoreFailure(s.Err(), [&] { Control.Put("ListIndex", Variant(i)); });
           break;
         }
       }
     }
   }
-  s.err.Clear();
+  s.Err().Clear();
 }
 
 }  // namespace qvx

@@ -19,19 +19,17 @@
 
 namespace qvx {
 
-class AddinState;
-
 // Steps 5 and 6: the text the control showed before wins and is written back
 // into Value; then Value is shown, or, where the control's text is read-only,
 // its row is selected.
-void SelectComboValue(AddinState& s, Line& line, const Object& Control, const std::string& shown,
+void SelectComboValue(FailureSink& s, Line& line, const Object& Control, const std::string& shown,
                       std::string& Value);
 
 // Remembers the shown text, clears the control, adds every entry whose
 // trimmed text is not empty (untrimmed, in order), then a blank row last when
 // AddBlank, and selects Value.
 template <class Entries, class TextOf>
-void FillComboList(AddinState& s, Line& line, const Object& Control, std::string& Value,
+void FillComboList(FailureSink& s, Line& line, const Object& Control, std::string& Value,
                    bool AddBlank, const Entries& entries, TextOf textOf) {
   line = 10;
   const std::string shown = Control.Get("Text").ToText();

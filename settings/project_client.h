@@ -16,11 +16,10 @@
 #include <string>
 
 #include "core/dates.h"
+#include "core/trap.h"
 #include "core/variant.h"
 
 namespace qvx {
-
-class AddinState;
 
 class cProjectClient {
  public:
@@ -30,11 +29,11 @@ class cProjectClient {
   DateValue FinishDate = kEmptyDate;
 
   // The project record. No trap of its own: a failure goes to the caller.
-  std::string ToString(AddinState& s) const;
+  std::string ToString(FailureSink& s) const;
 };
 
 // The date as catalogue text: "" for the years that mean no date, otherwise
 // "year-month-day", encoded like a name.
-std::string CatalogueDateText(AddinState& s, DateValue date);
+std::string CatalogueDateText(FailureSink& s, DateValue date);
 
 }  // namespace qvx

@@ -6,7 +6,6 @@
 #include "core/trap.h"
 #include "settings/combo_fill.h"
 #include "settings/scripting_sort.h"
-#include "state/addin_state.h"
 
 namespace qvx {
 namespace {
@@ -28,7 +27,7 @@ void cSingleList::AddIfAbsent(std::string_view item) {
   if (!dicList.Exists(item)) dicList.Add(item, std::string(item));
 }
 
-int16_t cSingleList::getItemIndex(AddinState& s, std::string_view Item) {
+int16_t cSingleList::getItemIndex(FailureSink& s, std::string_view Item) {
   return TrappedResult<int16_t>(s, "SingleList.getItemIndex", [&](Line& line, int16_t& result) {
     line = 10;
     // Keys ignore case but the comparison is exact: with key and item the
@@ -43,7 +42,7 @@ int16_t cSingleList::getItemIndex(AddinState& s, std::string_view Item) {
   });
 }
 
-std::string cSingleList::GetItem(AddinState& s, int16_t Index) {
+std::string cSingleList::GetItem(FailureSink& s, int16_t Index) {
   return TrappedResult<std::string>(s, "SingleList.GetItem", [&](Line& line, std::string& result) {
     line = 10;
     if (Index >= 0 && static_cast<size_t>(Index) < dicList.Count()) {
@@ -52,7 +51,7 @@ std::string cSingleList::GetItem(AddinState& s, int16_t Index) {
   });
 }
 
-std::string cSingleList::ToString(AddinState& s, std::string_view Delimiter, bool Sort) {
+std::string cSingleList::ToString(FailureSink& s, std::string_view Delimiter, bool Sort) {
   return TrappedResult<std::string>(s, "SingleList.GetString",
                                     [&](Line& line, std::string& result) {
                                       line = 10;
@@ -68,7 +67,7 @@ std::string cSingleList::ToString(AddinState& s, std::string_view Delimiter, boo
                                     });
 }
 
-void cSingleList::FromString(AddinState& s, std::string_view Text, std::string_view Delimiter) {
+void cSingleList::FromString(FailureSink& s, std::string_view Text, std::string_view Delimiter) {
   Trapped(s, "SingleList.SetString", [&](Line& line) {
     line = 10;
     dicList = {};
@@ -83,7 +82,7 @@ void cSingleList::FromString(AddinState& s, std::string_view Text, std::string_v
   });
 }
 
-void cSingleList::PopulateComboList(AddinState& s, const Object& Control, std::string& Value,
+void cSingleList::PopulateComboList(FailureSink& s, const Object& Control, std::string& Value,
                                     bool AddBlank) {
   Trapped(s, "SingleList.PopulateComboList", [&](Line& line) {
     FillComboList(s, line, Control, Value, AddBlank, dicList,
@@ -91,7 +90,7 @@ void cSingleList::PopulateComboList(AddinState& s, const Object& Control, std::s
   });
 }
 
-std::string cSingleList::RandomItem(AddinState& s) {
+std::string cSingleList::RandomItem(FailureSink& s) {
   return TrappedResult<std::string>(
       s, "SingleList.RandomItem", [&](Line& line, std::string& result) {
         line = 10;
@@ -107,7 +106,7 @@ std::string cSingleList::RandomItem(AddinState& s) {
       });
 }
 
-void cSingleList::FromRecordset(AddinState& s, const Object& Recordset) {
+void cSingleList::FromRecordset(FailureSink& s, const Object& Recordset) {
   Trapped(s, "SingleList.FromRecordset", [&](Line& line) {
     line = 10;
     dicList = {};
@@ -127,7 +126,7 @@ void cSingleList::FromRecordset(AddinState& s, const Object& Recordset) {
   });
 }
 
-void cSingleList::FromArray(AddinState& s, const std::vector<Variant>& Values) {
+void cSingleList::FromArray(FailureSink& s, const std::vector<Variant>& Values) {
   Trapped(s, "SingleList.SetArray", [&](Line& line) {
     line = 10;
     dicList = {};
@@ -139,7 +138,7 @@ void cSingleList::FromArray(AddinState& s, const std::vector<Variant>& Values) {
   });
 }
 
-void cSingleList::FromComboOrList(AddinState& s, const Object& Control) {
+void cSingleList::FromComboOrList(FailureSink& s, const Object& Control) {
   Trapped(s, "SingleList.GetControl", [&](Line& line) {
     line = 10;
     dicList = {};
@@ -154,7 +153,7 @@ void cSingleList::FromComboOrList(AddinState& s, const Object& Control) {
   });
 }
 
-std::vector<std::vector<std::string>> cSingleList::ToArray(AddinState& s) {
+std::vector<std::vector<std::string>> cSingleList::ToArray(FailureSink& s) {
   using Table = std::vector<std::vector<std::string>>;
   return TrappedResult<Table>(s, "SingleList.GetArray", [&](Line& line, Table& result) {
     line = 10;
@@ -170,7 +169,7 @@ std::vector<std::vector<std::string>> cSingleList::ToArray(AddinState& s) {
   });
 }
 
-void cSingleList::ToRS(AddinState& s, const Object& Recordset) {
+void cSingleList::ToRS(FailureSink& s, const Object& Recordset) {
   Trapped(s, "cSingleList.ToRS", [&](Line& line) {
     line = 10;
     cSingleList stored;
@@ -202,7 +201,7 @@ void cSingleList::ToRS(AddinState& s, const Object& Recordset) {
   });
 }
 
-std::string cSingleList::ToStringTab(AddinState& s) {
+std::string cSingleList::ToStringTab(FailureSink& s) {
   return TrappedResult<std::string>(s, "SingleList.GetString",
                                     [&](Line& line, std::string& result) {
                                       line = 10;
@@ -218,7 +217,7 @@ std::string cSingleList::ToStringTab(AddinState& s) {
                                     });
 }
 
-void cSingleList::FromListView(AddinState& s, const Object& ListView, bool WithTag) {
+void cSingleList::FromListView(FailureSink& s, const Object& ListView, bool WithTag) {
   Trapped(s, "SingleList.FromListView", [&](Line& line) {
     line = 10;
     if (!WithTag) dicList = {};

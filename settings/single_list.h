@@ -22,11 +22,10 @@
 
 #include "core/object.h"
 #include "core/ordered_dictionary.h"
+#include "core/trap.h"
 #include "core/variant.h"
 
 namespace qvx {
-
-class AddinState;
 
 class cSingleList {
  public:
@@ -37,34 +36,34 @@ class cSingleList {
 
   // 0-based position of the first item equal to Item, case included; the
   // count when there is none. Constant time, like GetItem.
-  int16_t getItemIndex(AddinState& s, std::string_view Item);
+  int16_t getItemIndex(FailureSink& s, std::string_view Item);
   // The item at a 0-based index, trimmed; "" outside the list.
-  std::string GetItem(AddinState& s, int16_t Index);
+  std::string GetItem(FailureSink& s, int16_t Index);
   // The items joined, the whole trimmed. Sort replaces the list by its sorted form.
-  std::string ToString(AddinState& s, std::string_view Delimiter, bool Sort);
+  std::string ToString(FailureSink& s, std::string_view Delimiter, bool Sort);
   // Replaces the list by the non-empty parts of Text, untrimmed, then sorts
   // (when Text is not empty).
-  void FromString(AddinState& s, std::string_view Text, std::string_view Delimiter);
+  void FromString(FailureSink& s, std::string_view Text, std::string_view Delimiter);
   // Fills a combo box (Clear, AddItem) and selects Value. A text the control
   // showed before wins and is written back into Value.
-  void PopulateComboList(AddinState& s, const Object& Control, std::string& Value, bool AddBlank);
+  void PopulateComboList(FailureSink& s, const Object& Control, std::string& Value, bool AddBlank);
   // An item drawn at random.
-  std::string RandomItem(AddinState& s);
+  std::string RandomItem(FailureSink& s);
   // Replaces the list by the second column of the recordset, then sorts.
-  void FromRecordset(AddinState& s, const Object& Recordset);
+  void FromRecordset(FailureSink& s, const Object& Recordset);
   // Replaces the list by the elements whose trimmed text is not empty. No sort.
-  void FromArray(AddinState& s, const std::vector<Variant>& Values);
+  void FromArray(FailureSink& s, const std::vector<Variant>& Values);
   // Replaces the list by the selected rows of a combo or list box. No sort.
-  void FromComboOrList(AddinState& s, const Object& Control);
+  void FromComboOrList(FailureSink& s, const Object& Control);
   // One row (index 0) of the non-empty items; skipped slots stay empty at the end.
-  std::vector<std::vector<std::string>> ToArray(AddinState& s);
+  std::vector<std::vector<std::string>> ToArray(FailureSink& s);
   // Brings the second column of a recordset into line with the list.
-  void ToRS(AddinState& s, const Object& Recordset);
+  void ToRS(FailureSink& s, const Object& Recordset);
   // Non-empty items joined by tabs, trimmed, then a tab and a blank.
-  std::string ToStringTab(AddinState& s);
+  std::string ToStringTab(FailureSink& s);
   // Adds the list view's item texts (with their tags appended when WithTag,
   // to the list as it is; otherwise to a new list). No sort.
-  void FromListView(AddinState& s, const Object& ListView, bool WithTag);
+  void FromListView(FailureSink& s, const Object& ListView, bool WithTag);
 
  private:
   void AddIfAbsent(std::string_view item);

@@ -2,11 +2,10 @@
 
 #include "settings/catalogue_text.h"
 #include "settings/project_client.h"
-#include "state/addin_state.h"
 
 namespace qvx {
 
-std::string cTasksClient::ToString(AddinState& s) const {
+std::string cTasksClient::ToString(FailureSink& s) const {
   return catalogue::Encoded(s, Activity) + "," + CatalogueDateText(s, DueDate);
 }
 

@@ -11,11 +11,10 @@
 #include <string>
 
 #include "core/dates.h"
+#include "core/trap.h"
 #include "core/variant.h"
 
 namespace qvx {
-
-class AddinState;
 
 class cTasksClient {
  public:
@@ -23,7 +22,7 @@ class cTasksClient {
   DateValue DueDate = kEmptyDate;
 
   // The activity record. No trap of its own: a failure goes to the caller.
-  std::string ToString(AddinState& s) const;
+  std::string ToString(FailureSink& s) const;
 };
 
 }  // namespace qvx

@@ -9,7 +9,6 @@
 #include "settings/catalogue_text.h"
 #include "settings/combo_fill.h"
 #include "settings/scripting_sort.h"
-#include "state/addin_state.h"
 
 namespace qvx {
 
@@ -17,7 +16,7 @@ using catalogue::Decoded;
 using catalogue::Part;
 using catalogue::Require;
 
-int16_t cTasksPerProject::getItemIndex(AddinState& s, std::string_view Item) {
+int16_t cTasksPerProject::getItemIndex(FailureSink& s, std::string_view Item) {
   return TrappedResult<int16_t>(s, "TasksPerProject.getItemIndex",
                                 [&](Line& line, int16_t& result) {
                                   line = 10;
@@ -34,7 +33,7 @@ int16_t cTasksPerProject::getItemIndex(AddinState& s, std::string_view Item) {
                                 });
 }
 
-std::string cTasksPerProject::GetItem(AddinState& s, int16_t Index) {
+std::string cTasksPerProject::GetItem(FailureSink& s, int16_t Index) {
   return TrappedResult<std::string>(
       s, "TasksPerProject.GetItem", [&](Line& line, std::string& result) {
         line = 10;
@@ -45,7 +44,7 @@ std::string cTasksPerProject::GetItem(AddinState& s, int16_t Index) {
       });
 }
 
-std::string cTasksPerProject::ToString(AddinState& s, std::string_view Delimiter, bool Sort) {
+std::string cTasksPerProject::ToString(FailureSink& s, std::string_view Delimiter, bool Sort) {
   return TrappedResult<std::string>(s, "cTasksPerProject.GetString",
                                     [&](Line& line, std::string& result) {
                                       line = 10;
@@ -63,7 +62,7 @@ std::string cTasksPerProject::ToString(AddinState& s, std::string_view Delimiter
                                     });
 }
 
-void cTasksPerProject::FromString(AddinState& s, std::string_view Text,
+void cTasksPerProject::FromString(FailureSink& s, std::string_view Text,
                                   std::string_view Delimiter) {
   Trapped(s, "cTasksPerProject.SetString", [&](Line& line) {
     line = 10;
@@ -81,25 +80,25 @@ void cTasksPerProject::FromString(AddinState& s, std::string_view Text,
         task->Activity = Decoded(s, Part(fields, 0));
       };
       if (ignoring) {
-        IgnoreFailure(s.err, name);
+        IgnoreFailure(s.Err(), name);
       } else {
         line = 30;
         name();
       }
       ignoring = true;
       line = 40;
-      IgnoreFailure(s.err,
+      IgnoreFailure(s.Err(),
                     [&] { task->DueDate = FromQuorvixDateFormat(s, Decoded(s, Part(fields, 1))); });
-      s.err.Clear();
+      s.Err().Clear();
       line = 50;
-      IgnoreFailure(s.err, [&] {
+      IgnoreFailure(s.Err(), [&] {
         if (!dicList.Exists(task->Activity)) dicList.Add(task->Activity, task);
       });
     }
   });
 }
 
-void cTasksPerProject::PopulateComboList(AddinState& s, const Object& Control, std::string& Value,
+void cTasksPerProject::PopulateComboList(FailureSink& s, const Object& Control, std::string& Value,
                                          bool AddBlank) {
   Trapped(s, "cTasksPerProject.PopulateComboList", [&](Line& line) {
     FillComboList(
@@ -108,7 +107,7 @@ void cTasksPerProject::PopulateComboList(AddinState& s, const Object& Control, s
   });
 }
 
-std::string cTasksPerProject::ToStringTab(AddinState& s) {
+std::string cTasksPerProject::ToStringTab(FailureSink& s) {
   return TrappedResult<std::string>(s, "cTasksPerProject.GetString",
                                     [&](Line& line, std::string& result) {
                                       line = 10;

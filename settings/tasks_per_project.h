@@ -25,12 +25,11 @@
 
 #include "core/object.h"
 #include "core/ordered_dictionary.h"
+#include "core/trap.h"
 #include "settings/project_client.h"
 #include "settings/tasks_client.h"
 
 namespace qvx {
-
-class AddinState;
 
 class cTasksPerProject {
  public:
@@ -39,21 +38,21 @@ class cTasksPerProject {
 
   // 0-based position of the activity named exactly Item, case included; the
   // count when there is none. Constant time.
-  int16_t getItemIndex(AddinState& s, std::string_view Item);
+  int16_t getItemIndex(FailureSink& s, std::string_view Item);
   // The name of the activity at a 0-based index, trimmed; "" outside the list.
-  std::string GetItem(AddinState& s, int16_t Index);
+  std::string GetItem(FailureSink& s, int16_t Index);
   // The activity records joined, the whole trimmed. Sort replaces the
   // dictionary by its sorted form (when it has more than one entry).
-  std::string ToString(AddinState& s, std::string_view Delimiter, bool Sort);
+  std::string ToString(FailureSink& s, std::string_view Delimiter, bool Sort);
   // Replaces the activities by those of Text: empty parts skipped, the first
   // of a name wins, a missing or bad due date left empty. No sort.
-  void FromString(AddinState& s, std::string_view Text, std::string_view Delimiter);
+  void FromString(FailureSink& s, std::string_view Text, std::string_view Delimiter);
   // Fills a combo box with the activity names (empty ones skipped) and
   // selects Value; a text the control showed before wins and is written back.
-  void PopulateComboList(AddinState& s, const Object& Control, std::string& Value, bool AddBlank);
+  void PopulateComboList(FailureSink& s, const Object& Control, std::string& Value, bool AddBlank);
   // The non-empty names joined by tabs, trimmed, then a tab and a blank;
   // each skipped name adds one more tab before that.
-  std::string ToStringTab(AddinState& s);
+  std::string ToStringTab(FailureSink& s);
 };
 
 }  // namespace qvx

@@ -7,7 +7,6 @@
 #include "schema/date_codecs.h"
 #include "schema/value_codecs.h"
 #include "settings/catalogue_text.h"
-#include "state/addin_state.h"
 
 namespace qvx {
 
@@ -15,7 +14,7 @@ using catalogue::Decoded;
 using catalogue::Part;
 using catalogue::Require;
 
-std::shared_ptr<cSingleList> cTasksPerProjectList::GetProjectsList(AddinState& s) {
+std::shared_ptr<cSingleList> cTasksPerProjectList::GetProjectsList(FailureSink& s) {
   using Result = std::shared_ptr<cSingleList>;
   return TrappedResult<Result>(
       s, "cTasksPerProjectList.GetProjectsList", [&](Line& line, Result& result) {
@@ -25,25 +24,27 @@ std::shared_ptr<cSingleList> cTasksPerProjectList::GetProjectsList(AddinState& s
         line = 20;
         std::string name;
         for (const auto& entry : dicList) {
-          IgnoreFailure(s.err, [&] { name = Require(Require(entry.value).Project).ListName; });
-          IgnoreFailure(s.err, [&] {
+          IgnoreFailure(s.Err(), [&] { name = Require(Require(entry.value).Project).ListName; });
+          IgnoreFailure(s.Err(), [&] {
             if (!name.empty() && !list.dicList.Exists(name)) list.dicList.Add(name, name);
           });
         }
       });
 }
 
-std::string cTasksPerProjectList::ToString(AddinState& s) {
+std::string cTasksPerProjectList::ToString(FailureSink& s) {
   return TrappedResult<std::string>(
       s, "cTasksPerProjectList.ToString", [&](Line& line, std::string& result) {
         line = 10;
         std::string record;
         std::string activities;
         for (const auto& entry : dicList) {
-          s.err.Clear();
-          IgnoreFailure(s.err, [&] { record = Require(Require(entry.value).Project).ToString(s); });
-          IgnoreFailure(s.err, [&] { activities = Require(entry.value).ToString(s, ";", false); });
-          IgnoreFailure(s.err, [&] {
+          s.Err().Clear();
+          IgnoreFailure(s.Err(),
+                        [&] { record = Require(Require(entry.value).Project).ToString(s); });
+          IgnoreFailure(s.Err(),
+                        [&] { activities = Require(entry.value).ToString(s, ";", false); });
+          IgnoreFailure(s.Err(), [&] {
             if (!result.empty()) result += catalogue::kLineBreak;
             result += record;
             result += ':';
@@ -53,7 +54,7 @@ std::string cTasksPerProjectList::ToString(AddinState& s) {
       });
 }
 
-void cTasksPerProjectList::FromString(AddinState& s, std::string_view Text) {
+void cTasksPerProjectList::FromString(FailureSink& s, std::string_view Text) {
   Trapped(s, "cTasksPerProjectList.FromString", [&](Line& line) {
     line = 10;
     const std::vector<std::string> lines = Split(Text, catalogue::kLineBreak);
@@ -69,11 +70,13 @@ void cTasksPerProjectList::FromString(AddinState& s, std::string_view Text) {
       line = 30;
       const std::string name = Decoded(s, Part(fields, 0));
       line = 40;
-      IgnoreFailure(s.err, [&] { color = Variant(Part(fields, 1)).ToInteger(); });
-      s.err.Clear();
-      IgnoreFailure(s.err, [&] { start = FromQuorvixDateFormat(s, Decoded(s, Part(fields, 2))); });
-      IgnoreFailure(s.err, [&] { finish = FromQuorvixDateFormat(s, Decoded(s, Part(fields, 3))); });
-      s.err.Clear();
+      IgnoreFailure(s.Err(), [&] { color = Variant(Part(fields, 1)).ToInteger(); });
+      s.Err().Clear();
+      IgnoreFailure(s.Err(),
+                    [&] { start = FromQuorvixDateFormat(s, Decoded(s, Part(fields, 2))); });
+      IgnoreFailure(s.Err(),
+                    [&] { finish = FromQuorvixDateFormat(s, Decoded(s, Part(fields, 3))); });
+      s.Err().Clear();
       line = 50;
       const std::string& activities = Part(parts, 1);
       line = 60;

@@ -33,23 +33,22 @@
 #include <string_view>
 
 #include "core/ordered_dictionary.h"
+#include "core/trap.h"
 #include "settings/single_list.h"
 #include "settings/tasks_per_project.h"
 
 namespace qvx {
-
-class AddinState;
 
 class cTasksPerProjectList {
  public:
   OrderedDictionary<std::shared_ptr<cTasksPerProject>> dicList;
 
   // A new list of the non-empty project names, in catalogue order, unsorted.
-  std::shared_ptr<cSingleList> GetProjectsList(AddinState& s);
+  std::shared_ptr<cSingleList> GetProjectsList(FailureSink& s);
   // The catalogue as text.
-  std::string ToString(AddinState& s);
+  std::string ToString(FailureSink& s);
   // Replaces the catalogue by the one the text describes.
-  void FromString(AddinState& s, std::string_view Text);
+  void FromString(FailureSink& s, std::string_view Text);
 };
 
 }  // namespace qvx

@@ -96,9 +96,9 @@ void SimApplication::CloseInspectorsOf(const SimItem& item) {
 }
 
 std::shared_ptr<SimItem> SimApplication::CreateItem(int32_t itemType) {
-  int32_t folderKind = kFolderDrafts;
-  if (itemType == kAppointmentItem) folderKind = kFolderCalendar;
-  if (itemType == kTaskItem) folderKind = kFolderTasks;
+  int32_t folderKind = host::olFolderDrafts;
+  if (itemType == host::olAppointmentItem) folderKind = host::olFolderCalendar;
+  if (itemType == host::olTaskItem) folderKind = host::olFolderTasks;
   auto item = MakeItem(context_, itemType);
   if (auto folder = session_->DefaultFolder(folderKind)) item->SetParent(folder);
   return item;

@@ -14,13 +14,13 @@ constexpr double kMinutesPerDay = 24.0 * 60.0;
 }  // namespace
 
 SimAppointment::SimAppointment(ContextPtr context)
-    : SimItem(std::move(context), kClassAppointment, "IPM.Appointment") {
+    : SimItem(std::move(context), host::olAppointment, "IPM.Appointment") {
   const DateValue now = this->context()->Now();
   SetField("Location", "");
   SetField("AllDayEvent", false);
   SetField("BusyStatus", int32_t{2});
   SetField("IsRecurring", false);
-  SetField("RecurrenceState", kNotRecurring);
+  SetField("RecurrenceState", host::olApptNotRecurring);
   SetField("Organizer", "");
   SetTimes(now, DateValue{now.serial + 30.0 / kMinutesPerDay});
 }
@@ -34,11 +34,11 @@ void SimAppointment::SetTimes(DateValue start, DateValue end) {
 
 void SimAppointment::MakeSeries() {
   SetField("IsRecurring", true);
-  SetField("RecurrenceState", kRecurrenceMaster);
+  SetField("RecurrenceState", host::olApptMaster);
 }
 
 std::shared_ptr<SimAppointment> SimAppointment::Occurrence(DateValue start) {
-  if (Field("RecurrenceState").ToLong() != kRecurrenceMaster) throw InvalidParameter();
+  if (Field("RecurrenceState").ToLong() != host::olApptMaster) throw InvalidParameter();
   auto& slot = occurrences_[start.serial];
   if (!slot) {
     slot = std::make_shared<SimAppointment>(context());
@@ -48,7 +48,7 @@ std::shared_ptr<SimAppointment> SimAppointment::Occurrence(DateValue start) {
     slot->SetField("Sensitivity", Field("Sensitivity"));
     slot->SetField("EntryID", Field("EntryID"));
     slot->SetField("IsRecurring", true);
-    slot->SetField("RecurrenceState", kRecurrenceOccurrence);
+    slot->SetField("RecurrenceState", host::olApptOccurrence);
     slot->SetField("Saved", true);
     const double length = Field("End").ToDate().serial - Field("Start").ToDate().serial;
     slot->SetTimes(start, DateValue{start.serial + length});

@@ -12,10 +12,10 @@ namespace {
 // The standard view a folder of this kind starts with.
 void AddStandardView(SimViews& views, int32_t defaultItemType) {
   switch (defaultItemType) {
-    case kAppointmentItem:
+    case host::olAppointmentItem:
       views.Add("Calendar", 2, 0, true);
       break;
-    case kTaskItem:
+    case host::olTaskItem:
       views.Add("Simple List", 0, 0, true);
       break;
     default:
@@ -29,7 +29,7 @@ void AddStandardView(SimViews& views, int32_t defaultItemType) {
 int32_t ItemTypeOfFolderKind(int32_t folderKind) {
   switch (folderKind) {
     case 9:
-      return kAppointmentItem;
+      return host::olAppointmentItem;
     case 10:
       return 2;  // contacts
     case 11:
@@ -38,9 +38,9 @@ int32_t ItemTypeOfFolderKind(int32_t folderKind) {
       return 5;  // notes
     case 13:
     case 28:
-      return kTaskItem;
+      return host::olTaskItem;
     default:
-      return kMailItem;
+      return host::olMailItem;
   }
 }
 

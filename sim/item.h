@@ -17,6 +17,7 @@
 #include <string_view>
 #include <unordered_map>
 
+#include "core/host_constants.h"
 #include "sim/context.h"
 #include "sim/sim_object.h"
 
@@ -29,20 +30,6 @@ enum class FieldType { Text, Date, Long, Bool, Double };
 
 // The value as a field of this type stores it (Failure 13 if it can't be).
 Variant ConvertField(FieldType type, const Variant& value);
-
-// The host's item class numbers (OlObjectClass).
-inline constexpr int32_t kClassAppointment = 26;
-inline constexpr int32_t kClassMail = 43;
-inline constexpr int32_t kClassTask = 48;
-
-// The host's item types (OlItemType) and recurrence states.
-inline constexpr int32_t kMailItem = 0;
-inline constexpr int32_t kAppointmentItem = 1;
-inline constexpr int32_t kTaskItem = 3;
-inline constexpr int32_t kNotRecurring = 0;
-inline constexpr int32_t kRecurrenceMaster = 1;
-inline constexpr int32_t kRecurrenceOccurrence = 2;
-inline constexpr int32_t kRecurrenceException = 3;
 
 class SimItem : public SimObject {
  public:

@@ -7,11 +7,11 @@ namespace qvx::sim {
 
 std::shared_ptr<SimItem> MakeItem(const ContextPtr& context, int32_t itemType) {
   switch (itemType) {
-    case kMailItem:
+    case host::olMailItem:
       return std::make_shared<SimMail>(context);
-    case kAppointmentItem:
+    case host::olAppointmentItem:
       return std::make_shared<SimAppointment>(context);
-    case kTaskItem:
+    case host::olTaskItem:
       return std::make_shared<SimTask>(context);
     default:
       throw InvalidParameter();
@@ -22,11 +22,11 @@ std::shared_ptr<SimItem> MakeItem(const ContextPtr& context, std::string_view me
   const std::string upper = UCase(messageClass);
   std::shared_ptr<SimItem> item;
   if (upper.rfind("IPM.APPOINTMENT", 0) == 0) {
-    item = MakeItem(context, kAppointmentItem);
+    item = MakeItem(context, host::olAppointmentItem);
   } else if (upper.rfind("IPM.TASK", 0) == 0) {
-    item = MakeItem(context, kTaskItem);
+    item = MakeItem(context, host::olTaskItem);
   } else if (upper.rfind("IPM.NOTE", 0) == 0) {
-    item = MakeItem(context, kMailItem);
+    item = MakeItem(context, host::olMailItem);
   } else {
     throw InvalidParameter();
   }

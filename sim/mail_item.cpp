@@ -4,7 +4,7 @@
 
 namespace qvx::sim {
 
-SimMail::SimMail(ContextPtr context) : SimItem(std::move(context), kClassMail, "IPM.Note") {
+SimMail::SimMail(ContextPtr context) : SimItem(std::move(context), host::olMail, "IPM.Note") {
   SetField("To", "");
   SetField("CC", "");
   SetField("BCC", "");

@@ -105,7 +105,7 @@ class MapiUtils final : public LibraryObject {
 
  private:
   Variant GetIDsFromNames(const Object& item, const std::string& guid, const std::string& name) {
-    if (!EqualsText(guid, schema::kPublicStringsGuid)) {
+    if (!EqualsText(guid, host::kPublicStringsGuid)) {
       throw LibraryFailure(kMapiNotFound, "Unknown property set");
     }
     if (FindProperty(item, name).IsNothing()) {

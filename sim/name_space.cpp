@@ -50,13 +50,13 @@ void SimNameSpace::Init() {
   const struct {
     int32_t kind;
     const char* name;
-  } defaults[] = {{kFolderDeletedItems, "Deleted Items"},
-                  {kFolderOutbox, "Outbox"},
-                  {kFolderSentMail, "Sent Items"},
-                  {kFolderInbox, "Inbox"},
-                  {kFolderCalendar, "Calendar"},
-                  {kFolderTasks, "Tasks"},
-                  {kFolderDrafts, "Drafts"}};
+  } defaults[] = {{host::olFolderDeletedItems, "Deleted Items"},
+                  {host::olFolderOutbox, "Outbox"},
+                  {host::olFolderSentMail, "Sent Items"},
+                  {host::olFolderInbox, "Inbox"},
+                  {host::olFolderCalendar, "Calendar"},
+                  {host::olFolderTasks, "Tasks"},
+                  {host::olFolderDrafts, "Drafts"}};
   for (const auto& d : defaults) {
     defaults_[d.kind] = root_->AddSubfolder(d.name, ItemTypeOfFolderKind(d.kind));
   }

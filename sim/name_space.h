@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/host_constants.h"
 #include "sim/context.h"
 #include "sim/sim_object.h"
 
@@ -20,14 +21,6 @@ class SimCategories;
 class SimFolder;
 class SimFolders;
 class SimItem;
-
-inline constexpr int32_t kFolderDeletedItems = 3;
-inline constexpr int32_t kFolderOutbox = 4;
-inline constexpr int32_t kFolderSentMail = 5;
-inline constexpr int32_t kFolderInbox = 6;
-inline constexpr int32_t kFolderCalendar = 9;
-inline constexpr int32_t kFolderTasks = 13;
-inline constexpr int32_t kFolderDrafts = 16;
 
 class SimNameSpace : public SimObject {
  public:

@@ -20,13 +20,13 @@ std::shared_ptr<SimFolder> Outlook::DefaultFolder(int32_t kind) {
 }
 
 std::shared_ptr<SimFolder> Outlook::Calendar() {
-  return DefaultFolder(kFolderCalendar);
+  return DefaultFolder(host::olFolderCalendar);
 }
 std::shared_ptr<SimFolder> Outlook::Tasks() {
-  return DefaultFolder(kFolderTasks);
+  return DefaultFolder(host::olFolderTasks);
 }
 std::shared_ptr<SimFolder> Outlook::Inbox() {
-  return DefaultFolder(kFolderInbox);
+  return DefaultFolder(host::olFolderInbox);
 }
 std::shared_ptr<SimFolder> Outlook::Root() {
   return app_->session().root();
@@ -64,7 +64,7 @@ std::shared_ptr<SimAppointment> Outlook::AddAppointment(std::string subject, Dat
   auto item = std::make_shared<SimAppointment>(context_);
   item->SetField("Subject", std::move(subject));
   item->SetTimes(start, end);
-  return Place(FolderOr(std::move(folder), kFolderCalendar), item, *context_);
+  return Place(FolderOr(std::move(folder), host::olFolderCalendar), item, *context_);
 }
 
 std::shared_ptr<SimAppointment> Outlook::AddRecurringAppointment(
@@ -84,13 +84,13 @@ std::shared_ptr<SimTask> Outlook::AddTask(std::string subject, DateValue start, 
   item->SetField("Subject", std::move(subject));
   item->SetField("StartDate", start);
   item->SetField("DueDate", due);
-  return Place(FolderOr(std::move(folder), kFolderTasks), item, *context_);
+  return Place(FolderOr(std::move(folder), host::olFolderTasks), item, *context_);
 }
 
 std::shared_ptr<SimMail> Outlook::AddMail(std::string subject, std::shared_ptr<SimFolder> folder) {
   auto item = std::make_shared<SimMail>(context_);
   item->SetField("Subject", std::move(subject));
-  return Place(FolderOr(std::move(folder), kFolderInbox), item, *context_);
+  return Place(FolderOr(std::move(folder), host::olFolderInbox), item, *context_);
 }
 
 void Outlook::ChangeItem(SimItem& item, std::string_view field, const Variant& value) {

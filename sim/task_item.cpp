@@ -5,7 +5,7 @@
 
 namespace qvx::sim {
 
-SimTask::SimTask(ContextPtr context) : SimItem(std::move(context), kClassTask, "IPM.Task") {
+SimTask::SimTask(ContextPtr context) : SimItem(std::move(context), host::olTask, "IPM.Task") {
   SetField("StartDate", kNoneDate);
   SetField("DueDate", kNoneDate);
   SetField("DateCompleted", kNoneDate);

@@ -13,20 +13,20 @@ namespace qvx::sim {
 
 Variant ConvertToPropertyType(int32_t type, const Variant& value) {
   switch (type) {
-    case kOlText:
-    case kOlKeywords:
+    case host::olText:
+    case host::olKeywords:
       return Variant(value.ToText());
-    case kOlNumber:
+    case host::olNumber:
       return Variant(value.ToDouble());
-    case kOlDateTime:
+    case host::olDateTime:
       return Variant(value.ToDate());
-    case kOlYesNo:
+    case host::olYesNo:
       return Variant(value.ToBoolean());
-    case kOlInteger:
-    case kOlPercent:
-    case kOlDuration:
+    case host::olInteger:
+    case host::olPercent:
+    case host::olDuration:
       return Variant(value.ToLong());
-    case kOlCurrency:
+    case host::olCurrency:
       return Variant(value.ToCurrency());
     default:
       return value;
@@ -35,20 +35,20 @@ Variant ConvertToPropertyType(int32_t type, const Variant& value) {
 
 Variant DefaultPropertyValue(int32_t type) {
   switch (type) {
-    case kOlText:
-    case kOlKeywords:
+    case host::olText:
+    case host::olKeywords:
       return Variant("");
-    case kOlDateTime:
+    case host::olDateTime:
       return Variant(kNoneDate);
-    case kOlYesNo:
+    case host::olYesNo:
       return Variant(false);
-    case kOlCurrency:
+    case host::olCurrency:
       return Variant(Currency{});
-    case kOlNumber:
+    case host::olNumber:
       return Variant(0.0);
-    case kOlInteger:
-    case kOlPercent:
-    case kOlDuration:
+    case host::olInteger:
+    case host::olPercent:
+    case host::olDuration:
       return Variant(int32_t{0});
     default:
       return Variant();

@@ -14,22 +14,13 @@
 #include <string_view>
 #include <vector>
 
+#include "core/host_constants.h"
 #include "sim/sim_object.h"
 
 namespace qvx::sim {
 
 class SimItem;
 class SimUserProperties;
-
-inline constexpr int32_t kOlText = 1;
-inline constexpr int32_t kOlNumber = 3;
-inline constexpr int32_t kOlDateTime = 5;
-inline constexpr int32_t kOlYesNo = 6;
-inline constexpr int32_t kOlDuration = 7;
-inline constexpr int32_t kOlKeywords = 11;
-inline constexpr int32_t kOlPercent = 12;
-inline constexpr int32_t kOlCurrency = 14;
-inline constexpr int32_t kOlInteger = 20;
 
 // The value as a property of `type` stores it; Failure 13 if it can't be.
 Variant ConvertToPropertyType(int32_t type, const Variant& value);

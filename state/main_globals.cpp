@@ -1,10 +1,6 @@
 #include "state/main_globals.h"
 
-#include "addin/explorers_event_client.h"
-#include "addin/inspectors_client.h"
-#include "companion/listener_form.h"
 #include "core/failure.h"
-#include "settings/single_list.h"
 
 namespace qvx {
 

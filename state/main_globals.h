@@ -8,14 +8,16 @@
 
 #include "core/object.h"
 #include "core/ordered_dictionary.h"
-#include "settings/my_settings.h"
+#include "core/owner.h"
 #include "state/loaded_form.h"
 
 namespace qvx {
 
+// Owned here, defined by the subsystems above this record.
 class cExplorersEventClient;
 class cInspectors;
 class cExplorerClient;
+class cMySettings;
 class cSingleList;
 class ListenerForm;
 
@@ -39,15 +41,15 @@ struct MainGlobals {
   AddinPhase phase = AddinPhase::NotConnected;
   Object objOutlook;
   bool blnAddinConnected = false;  // set on connection; nothing reads it
-  std::unique_ptr<cMySettings> objMySettings;
+  Owner<cMySettings> objMySettings;
   std::string strToolName;
   std::shared_ptr<ListenerForm> fListenToLocal;
   std::shared_ptr<ListenerForm> fListenToAdmin;
-  std::unique_ptr<cExplorersEventClient> objExplorersClient;
-  std::unique_ptr<cInspectors> objInspectorsClient;
+  Owner<cExplorersEventClient> objExplorersClient;
+  Owner<cInspectors> objInspectorsClient;
   std::unique_ptr<OrderedDictionary<std::shared_ptr<cExplorerClient>>> colExplorerClients;
   Object objNameSpace;
-  std::unique_ptr<cSingleList> colViewNames;
+  Owner<cSingleList> colViewNames;
   Object objRibbonUI;
   ChannelIds channel;
   // The runtime's collection of loaded forms, in load order.

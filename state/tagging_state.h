@@ -1,8 +1,6 @@
 // State of the tagging actions, shared with the bars and the ribbon.
 #pragma once
 
-#include <string>
-
 namespace qvx {
 
 struct TaggingState {
@@ -11,9 +9,6 @@ struct TaggingState {
   // nothing while it is set, so that the pump between two items cannot
   // refresh the bars with a half-tagged selection.
   bool blnTaggingInProgress = false;
-  // The activity now shown in the explorer's ribbon or bar. A project change
-  // empties it when the activity doesn't belong to the new project.
-  std::string SELECTED_ACTIVITY_VALUE;
 };
 
 }  // namespace qvx

@@ -1,6 +1,7 @@
 // The current action and the trace log. The log is off for good: nothing
 // sets the trace flag, so these only record the action text.
 #include "core/dates.h"
+#include "core/scope_exit.h"
 #include "state/addin_state.h"
 #include "support/app_texts.h"
 #include "support/error_reporting.h"
@@ -21,6 +22,7 @@ void WriteToLog(AddinState& s, std::string_view text) noexcept {
   // Finding the log makes the file object, which records an action, which logs.
   if (s.support.writingLog) return;
   s.support.writingLog = true;
+  ScopeExit done([&]() noexcept { s.support.writingLog = false; });
   std::string path;
   IgnoreFailure(s.err, [&] { path = fncGetLogFile(s); });
   if (!text.empty() && !path.empty()) {
@@ -31,7 +33,6 @@ void WriteToLog(AddinState& s, std::string_view text) noexcept {
     });
     s.err.Clear();
   }
-  s.support.writingLog = false;
 }
 
 std::string fncGetLogFolder(AddinState& s) noexcept {

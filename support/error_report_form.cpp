@@ -1,6 +1,7 @@
 #include "support/error_report_form.h"
 
 #include "core/failure.h"
+#include "core/host_constants.h"
 #include "state/addin_state.h"
 #include "support/endpoints.h"
 #include "support/error_reporting.h"
@@ -82,7 +83,7 @@ void frmErrorReport::ViewReportClick() noexcept {
 void frmErrorReport::MailReport(bool direct) noexcept {
   Trapped(s_, kHandlerLabel, [&](Line& line) {
     line = 10;
-    if (s_.main.objOutlook.IsNothing()) EnsureOutlookSession(s_, kFolderInbox);
+    if (s_.main.objOutlook.IsNothing()) EnsureOutlookSession(s_, host::olFolderInbox);
     line = 20;
     const std::string report = Control("txtReport").text;
     line = 30;

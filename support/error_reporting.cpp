@@ -1,6 +1,7 @@
 // The central failure handler and the mailing of its report.
 #include "support/error_reporting.h"
 
+#include "core/host_constants.h"
 #include "platform/user_interface.h"
 #include "state/addin_state.h"
 #include "support/app_texts.h"
@@ -11,9 +12,7 @@
 
 namespace qvx {
 
-namespace {
-constexpr int32_t kMailItem = 0;
-}  // namespace
+namespace {}  // namespace
 
 std::string BuildErrorReport(int line, std::string_view label, std::string_view source,
                              int32_t number, std::string_view description) {
@@ -37,7 +36,7 @@ void ReportError(AddinState& s, const std::string& description, int32_t number, 
   try {
     // The session helper clears the pending error, so its source is taken first.
     const std::string source = s.err.source;
-    EnsureOutlookSession(s, kFolderInbox);
+    EnsureOutlookSession(s, host::olFolderInbox);
     const std::string report = BuildErrorReport(line, label, source, number, description);
     s.support.firstReportShown = true;
     frmErrorReport form(s);
@@ -51,19 +50,15 @@ void ReportError(AddinState& s, const std::string& description, int32_t number, 
   }
 }
 
-void AddinState::ReportError(const std::string& description, int32_t number, int line,
-                             std::string_view label, bool allowDirectSend) noexcept {
-  qvx::ReportError(*this, description, number, line, label, allowDirectSend);
-}
-
 void SendErrorReport(AddinState& s, const std::string& report, bool direct) noexcept {
   if (s.main.objOutlook.IsNothing()) {
-    EnsureOutlookSession(s, kFolderInbox);
+    EnsureOutlookSession(s, host::olFolderInbox);
     if (s.main.objOutlook.IsNothing()) return;
   }
   Object mail;
-  IgnoreFailure(
-      s.err, [&] { mail = s.main.objOutlook.Call("CreateItem", {Variant(kMailItem)}).ToObject(); });
+  IgnoreFailure(s.err, [&] {
+    mail = s.main.objOutlook.Call("CreateItem", {Variant(host::olMailItem)}).ToObject();
+  });
   IgnoreFailure(s.err, [&] { mail.Put("To", Variant(std::string(kErrorReportMailAddress))); });
   IgnoreFailure(s.err, [&] {
     mail.Put("Subject",

@@ -45,7 +45,7 @@ Variant GetFieldValueFromItem(AddinState& s, const Object& item, std::string_vie
     const bool tagged =
         utils && IgnoreFailure(s.err, [&] {
           tag = utils.Call("GetIDsFromNames",
-                           {Variant(item), Variant(schema::kPublicStringsGuid), Variant(strField)});
+                           {Variant(item), Variant(host::kPublicStringsGuid), Variant(strField)});
         });
     if (tagged) {
       line = 30;

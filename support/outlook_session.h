@@ -10,15 +10,12 @@
 #include <cstdint>
 #include <string_view>
 
+#include "core/host_constants.h"
 #include "core/object.h"
 
 namespace qvx {
 
 class AddinState;
-
-// The host's folder numbers used here.
-inline constexpr int32_t kFolderInbox = 6;
-inline constexpr int32_t kFolderCalendar = 9;
 
 // Makes sure s.main.objOutlook holds a host of version 10 or later, sets
 // s.main.objNameSpace, and activates an explorer (on `folder` if none is

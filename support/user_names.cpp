@@ -1,5 +1,5 @@
 // The user's name: from the mailbox, else from the system.
-#include "addin/main_module.h"
+#include "core/host_constants.h"
 #include "core/text.h"
 #include "state/addin_state.h"
 #include "support/host_items.h"
@@ -15,14 +15,15 @@ std::string GetCurrentUserName(AddinState& s) noexcept {
 
 std::string GetUserNameFromMailbox(AddinState& s) noexcept {
   if (s.main.objOutlook.IsNothing()) {
-    EnsureOutlookSession(s, kFolderInbox);
-    if (s.main.objOutlook.IsNothing()) subKillObjects(s);
+    EnsureOutlookSession(s, host::olFolderInbox);
+    if (s.main.objOutlook.IsNothing()) s.upward().subKillObjects();
   }
   std::string name;
   const bool read = IgnoreFailure(s.err, [&] {
     Object ns = s.main.objNameSpace;
     if (ns.IsNothing()) ns = s.main.objOutlook.Call("GetNamespace", {Variant("MAPI")}).ToObject();
-    const Object calendar = ns.Call("GetDefaultFolder", {Variant(kFolderCalendar)}).ToObject();
+    const Object calendar =
+        ns.Call("GetDefaultFolder", {Variant(host::olFolderCalendar)}).ToObject();
     name = calendar.Get("Parent").ToObject().Get("Name").ToText();
   });
   if (!read) return {};

@@ -161,7 +161,7 @@ void AddWindowVerbs(VerbTable& table) {
               auto explorer = w.host().ActiveExplorer();
               if (!explorer) throw UsageError("no explorer is open");
               auto series = std::dynamic_pointer_cast<sim::SimAppointment>(ItemNamed(w, a.At(0)));
-              if (!series || series->Field("RecurrenceState").ToLong() != sim::kRecurrenceMaster) {
+              if (!series || series->Field("RecurrenceState").ToLong() != host::olApptMaster) {
                 throw UsageError("\"" + a.At(0) + "\" is no series");
               }
               w.host().Select(*explorer, {w.host().Occurrence(*series, DateWord(a, 1))});

@@ -80,7 +80,7 @@ void AddTagVerbs(VerbTable& table) {
             "the activity the explorer's ribbon shows now (\"\" for none)",
             [](World& w, const Args& a) {
               a.Expect(1);
-              State(w).tagging.SELECTED_ACTIVITY_VALUE = a.At(0);
+              State(w).ribbon.explorer.SELECTED_ACTIVITY_VALUE = a.At(0);
             });
   table.Add("tag colours", "tag colours", "loads the projects' colours into the categories",
             [](World& w, const Args& a) {
@@ -170,7 +170,7 @@ void AddExpectVerbs(VerbTable& table) {
   table.Add("expect shown-activity", "expect shown-activity TEXT",
             "the activity the explorer's ribbon shows", [](World& w, const Args& a) {
               a.Expect(1);
-              ExpectEqual(a.At(0), State(w).tagging.SELECTED_ACTIVITY_VALUE);
+              ExpectEqual(a.At(0), State(w).ribbon.explorer.SELECTED_ACTIVITY_VALUE);
             });
 }
 

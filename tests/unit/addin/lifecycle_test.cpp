@@ -4,6 +4,7 @@
 #include "addin/main_module.h"
 #include "apps/qvx-sim/world.h"
 #include "companion/message_names.h"
+#include "settings/my_settings.h"
 #include "sim/explorer.h"
 
 namespace qvx::testing {

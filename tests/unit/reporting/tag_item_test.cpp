@@ -32,12 +32,12 @@ TEST(IsCustomFieldProperty, OnlyFieldsOneToEightCaseIncluded) {
 TEST_F(TagItemTest, WritesATextPropertyOverTheOldOneAndSavesIfAsked) {
   Connect();
   auto item = Appointment("Planning");
-  item->UserProperties().Set("Field5Value", sim::kOlText, Variant("Old"));
+  item->UserProperties().Set("Field5Value", host::olText, Variant("Old"));
   const int savesBefore = item->saveCount();
   EXPECT_TRUE(Tag(*item, "Field5Value", "free text"));
   auto property = item->UserProperties().Find("Field5Value");
   ASSERT_TRUE(property);
-  EXPECT_EQ(property->type(), sim::kOlText);
+  EXPECT_EQ(property->type(), host::olText);
   EXPECT_EQ(property->value().ToText(), "free text");
   EXPECT_EQ(item->UserProperties().list().size(), 1u);
   EXPECT_EQ(item->saveCount(), savesBefore + 1);
@@ -126,7 +126,7 @@ TEST_F(TagItemTest, RefusalsArePassedOverButARefusedValueIsReported) {
 
   auto readOnly = Appointment("C");
   readOnly->UserProperties()
-      .Add("ProjectValue", sim::kOlText, false)
+      .Add("ProjectValue", host::olText, false)
       ->FailMember("Value", sim::hresult::kFail, "The property is read-only.");
   EXPECT_FALSE(Tag(*readOnly, "ProjectValue", "Alpha"));
   EXPECT_TRUE(Reported("Actions.TagProjectToItem", 20));

@@ -74,7 +74,7 @@ TEST_F(TagSelectionTest, AnItemThatRefusesItsValueIsReportedAndTheOthersAreTagge
   auto a = Appointment("A");
   auto b = Appointment("B");
   a->UserProperties()
-      .Add("ProjectValue", sim::kOlText, false)
+      .Add("ProjectValue", host::olText, false)
       ->FailMember("Value", sim::hresult::kFail, "read-only");
   Select({a, b});
   EXPECT_TRUE(Tag("Alpha", ""));

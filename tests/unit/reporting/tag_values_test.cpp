@@ -12,7 +12,7 @@ namespace {
 class TagValuesTest : public TaggingTest {
  protected:
   void SetUp() override { Connect(); }
-  std::string& selectedActivity() { return s().tagging.SELECTED_ACTIVITY_VALUE; }
+  std::string& selectedActivity() { return s().ribbon.explorer.SELECTED_ACTIVITY_VALUE; }
 };
 
 TEST_F(TagValuesTest, AProjectOutsideTheListKeepsTheActivityAndAnUnreadCatalogueIsReadFirst) {
@@ -62,7 +62,7 @@ TEST_F(TagValuesTest, TheFlagIsSetWhileTheSelectionIsWorked) {
 }
 
 TEST_F(TagValuesTest, AnInspectorsNewItemTakesAProjectButNoActivity) {
-  auto item = host().app().CreateItem(sim::kAppointmentItem);
+  auto item = host().app().CreateItem(host::olAppointmentItem);
   host().OpenInspector(item);
   ASSERT_EQ(item->EntryId(), "");
   Main::TagTaskValueToItem(s(), "Design");

@@ -13,6 +13,7 @@
 
 #include "apps/qvx-sim/world.h"
 #include "core/dates.h"
+#include "settings/my_settings.h"
 #include "sim/appointment.h"
 #include "sim/explorer.h"
 #include "sim/item.h"

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "addin/upward_calls.h"
 #include "platform/posix/native_object.h"
 #include "platform/posix/posix_objects.h"
 #include "platform/posix/posix_system.h"
@@ -29,6 +30,7 @@ struct TestAddin {
                              .ui = &ui,
                              .system = &system,
                              .windows = nullptr}) {
+    ConnectUpwardCalls(s);
     s.main.objMySettings = std::make_unique<cMySettings>();
     // A host with no members: every call fails with 438.
     s.main.objOutlook = Object(std::make_shared<platform::NativeObject>("Application"));

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "addin/upward_calls.h"
 #include "core/dates.h"
 #include "platform/posix/file_registry.h"
 #include "sim/inert_platform.h"
@@ -68,6 +69,7 @@ struct SettingsFixture {
                              .ui = &ui,
                              .system = &system,
                              .windows = nullptr}) {
+    ConnectUpwardCalls(s);
     s.main.objOutlook = Object(std::make_shared<InertHost>());
   }
 

@@ -72,7 +72,7 @@ TEST_F(SimItemsTest, OccurrencesHaveTheSeriesAsParentAndNoStoreOfTheirOwn) {
   const Object master = series->AsObject();
   const Object occurrence =
       world.Occurrence(*series, ComposeDate({2026, 1, 7, 9, 0, 0}))->AsObject();
-  EXPECT_EQ(occurrence.Get("RecurrenceState").ToLong(), kRecurrenceOccurrence);
+  EXPECT_EQ(occurrence.Get("RecurrenceState").ToLong(), host::olApptOccurrence);
   EXPECT_TRUE(occurrence.Get("Parent").ToObject().Is(master));
   EXPECT_EQ(FailureOf([&] { occurrence.Get("Parent").ToObject().Get("StoreID"); }).number(),
             err::kNoSuchMember);

@@ -30,10 +30,10 @@ TEST_F(SimUserPropertiesTest, ValuesTakeThePropertyType) {
     Variant put;     // what the add-in writes
     Variant stored;  // what it reads back
   } rows[] = {
-      {"ProjectValue", kOlText, Variant(""), Variant(int32_t{42}), Variant("42")},
-      {"ReportedDate", kOlDateTime, Variant(kNoneDate), Variant("2026-03-04"),
+      {"ProjectValue", host::olText, Variant(""), Variant(int32_t{42}), Variant("42")},
+      {"ReportedDate", host::olDateTime, Variant(kNoneDate), Variant("2026-03-04"),
        Variant(DateSerial(2026, 3, 4))},
-      {"Reported", kOlYesNo, Variant(false), Variant(int16_t{-1}), Variant(true)},
+      {"Reported", host::olYesNo, Variant(false), Variant(int16_t{-1}), Variant(true)},
   };
   for (const auto& row : rows) {
     const Object p = props.Call("Add", {Variant(row.name), Variant(row.type)}).ToObject();
@@ -49,16 +49,17 @@ TEST_F(SimUserPropertiesTest, LookupIsCaseBlindAndReAddingNeedsTheSameType) {
   EXPECT_TRUE(props.Call("Find", {Variant("ProjectValue")}).ToObject().IsNothing());
   EXPECT_TRUE(props.Call("Item", {Variant("ProjectValue")}).ToObject().IsNothing());
   const Object added =
-      props.Call("Add", {Variant("ProjectValue"), Variant(kOlText), Variant(true)}).ToObject();
+      props.Call("Add", {Variant("ProjectValue"), Variant(host::olText), Variant(true)}).ToObject();
   EXPECT_TRUE(props.Call("Find", {Variant("PROJECTVALUE")}).ToObject().Is(added));
   EXPECT_TRUE(props.Call("Item", {Variant("projectvalue")}).ToObject().Is(added));
-  EXPECT_TRUE(props.Call("Add", {Variant("projectValue"), Variant(kOlText)}).ToObject().Is(added));
-  EXPECT_THROW(props.Call("Add", {Variant("ProjectValue"), Variant(kOlYesNo)}), Failure);
+  EXPECT_TRUE(
+      props.Call("Add", {Variant("projectValue"), Variant(host::olText)}).ToObject().Is(added));
+  EXPECT_THROW(props.Call("Add", {Variant("ProjectValue"), Variant(host::olYesNo)}), Failure);
 }
 
 TEST_F(SimUserPropertiesTest, AddToFolderFieldsEntersTheFolderList) {
-  props.Call("Add", {Variant("Scratch"), Variant(kOlText), Variant(false)});
-  props.Call("Add", {Variant("Reported"), Variant(kOlYesNo)});  // True by default
+  props.Call("Add", {Variant("Scratch"), Variant(host::olText), Variant(false)});
+  props.Call("Add", {Variant("Reported"), Variant(host::olYesNo)});  // True by default
   EXPECT_TRUE(world.Calendar()->HasField("reported"));
   EXPECT_FALSE(world.Calendar()->HasField("Scratch"));
 }

@@ -13,7 +13,7 @@ using EnsureOutlookSessionTest = SupportTest;
 TEST_F(EnsureOutlookSessionTest, HeldHostShowsNoBoxAndActivatesTheFirstExplorer) {
   ConnectHost();
   outlook.hasActiveExplorer = false;
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_TRUE(ui.MessageBoxes().empty());
   EXPECT_EQ(outlook.activations, 1);
   EXPECT_TRUE(outlook.explorersAddedFor.empty());
@@ -23,15 +23,15 @@ TEST_F(EnsureOutlookSessionTest, HeldHostShowsNoBoxAndActivatesTheFirstExplorer)
 
 TEST_F(EnsureOutlookSessionTest, AnActiveExplorerIsLeftAloneAndTheSessionAskedOnce) {
   ConnectHost();
-  EnsureOutlookSession(s, kFolderInbox);
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_EQ(outlook.activations, 0);
   EXPECT_EQ(outlook.namespaceCalls, 1);
 }
 
 TEST_F(EnsureOutlookSessionTest, AttachesToARunningHost) {
   HostRunning();
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_TRUE(s.main.objOutlook.Is(outlook.Application()));
   EXPECT_TRUE(objects.CreateRequests().empty());
   EXPECT_TRUE(ui.MessageBoxes().empty());
@@ -39,7 +39,7 @@ TEST_F(EnsureOutlookSessionTest, AttachesToARunningHost) {
 
 TEST_F(EnsureOutlookSessionTest, CreatesByTheVersionedProgIdsInOrder) {
   objects.RegisterCreator("Outlook.Application.12", [this] { return outlook.Application(); });
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_TRUE(s.main.objOutlook.Is(outlook.Application()));
   EXPECT_EQ(objects.CreateRequests(),
             (std::vector<std::string>{"Outlook.Application", "Outlook.Application.14",
@@ -48,7 +48,7 @@ TEST_F(EnsureOutlookSessionTest, CreatesByTheVersionedProgIdsInOrder) {
 }
 
 TEST_F(EnsureOutlookSessionTest, NoHostShowsBothBoxesAndTearsDown) {
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_EQ(objects.CreateRequests().size(), 7u);
   ASSERT_EQ(ui.MessageBoxes().size(), 2u);
   EXPECT_EQ(ui.MessageBoxes()[0].text, "Error trying to start Outlook!");
@@ -63,14 +63,14 @@ TEST_F(EnsureOutlookSessionTest, NoHostShowsBothBoxesAndTearsDown) {
 TEST_F(EnsureOutlookSessionTest, VersionBelowTenIsRefusedAndTenPasses) {
   HostRunning();
   outlook.version = "9.0.0.2711";
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   ASSERT_EQ(ui.MessageBoxes().size(), 1u);
   EXPECT_EQ(ui.MessageBoxes()[0].text, kRequired + "\r\n9");
   EXPECT_EQ(ui.MessageBoxes()[0].style, msgbox::kCritical);
   EXPECT_TRUE(s.main.objOutlook.IsNothing());
   s.support.cachedVersion = 0;
   outlook.version = "10.0";
-  EnsureOutlookSession(s, kFolderInbox);
+  EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_EQ(ui.MessageBoxes().size(), 1u);
   EXPECT_FALSE(s.main.objOutlook.IsNothing());
 }
@@ -87,11 +87,11 @@ TEST_F(SupportTest, GetVersionTakesTheMajorAndCachesIt) {
 
 TEST_F(SupportTest, ShowDefaultFolderOpensAnExplorerOnlyWhenThereIsNoneAndTellsAFailure) {
   ConnectHost();
-  ShowDefaultFolder(s, kFolderCalendar);
+  ShowDefaultFolder(s, host::olFolderCalendar);
   EXPECT_TRUE(outlook.explorersAddedFor.empty());
   outlook.explorerCount = 0;
-  ShowDefaultFolder(s, kFolderCalendar);
-  EXPECT_EQ(outlook.explorersAddedFor, std::vector<int32_t>{kFolderCalendar});
+  ShowDefaultFolder(s, host::olFolderCalendar);
+  EXPECT_EQ(outlook.explorersAddedFor, std::vector<int32_t>{host::olFolderCalendar});
   EXPECT_EQ(outlook.explorerAddModes, std::vector<int32_t>{3});
   EXPECT_EQ(outlook.displays, 1);
   EXPECT_FALSE(s.main.objNameSpace.IsNothing());
@@ -99,7 +99,7 @@ TEST_F(SupportTest, ShowDefaultFolderOpensAnExplorerOnlyWhenThereIsNoneAndTellsA
 
   outlook.explorerCount = 0;
   outlook.failGetDefaultFolder = true;
-  ShowDefaultFolder(s, kFolderCalendar);
+  ShowDefaultFolder(s, host::olFolderCalendar);
   ASSERT_EQ(ui.MessageBoxes().size(), 1u);
   // Failures are ignored statement by statement, so the box tells the last
   // one: the display of the explorer that could not be added.

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <string>
 
+#include "addin/upward_calls.h"
 #include "fake_outlook.h"
 #include "platform/posix/posix_objects.h"
 #include "platform/posix/posix_system.h"
@@ -26,7 +27,9 @@ class SupportTest : public ::testing::Test {
                 .addinFolder = AddinFolder(),
                 .spawn = false,
                 .environment = {{"USERNAME", "winuser"}}}),
-        objects(system) {}
+        objects(system) {
+    ConnectUpwardCalls(s);
+  }
   ~SupportTest() override { std::filesystem::remove_all(root_); }
 
   // The host is the add-in's connected Application.

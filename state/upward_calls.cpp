@@ -1,0 +1,11 @@
+#include "state/upward_calls.h"
+
+namespace qvx {
+
+void UpwardCalls::ReportError(const std::string&, int32_t, int, std::string_view, bool) noexcept {}
+void UpwardCalls::subKillObjects() {}
+void UpwardCalls::UpdateAllDisplayedToolbars() noexcept {}
+void UpwardCalls::subInvalidateRibbon() noexcept {}
+void UpwardCalls::LoadProjectColorCodesToOutlook() noexcept {}
+
+}  // namespace qvx

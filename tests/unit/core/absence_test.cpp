@@ -1,0 +1,114 @@
+// The vocabulary of expected absence and clean-up: Quietly with a value,
+// ObjectOrNothing, QuietObject, IgnoreFailureAt, ScopeExit, Owner.
+#include "core/absence.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "core/failure.h"
+#include "core/owner.h"
+#include "core/scope_exit.h"
+#include "platform/posix/native_object.h"
+
+namespace qvx {
+namespace {
+
+Object Host() { return Object(std::make_shared<platform::NativeObject>("Folder")); }
+
+TEST(Quietly, GivesTheValueOrNothingAndLeavesNoErrorPending) {
+  ErrorState err;
+  err.Set(Failure(5, "earlier", "pending before"));
+  EXPECT_EQ(Quietly(err, [] { return 42; }), 42);
+  EXPECT_FALSE(err.pending());  // cleared even when the statement succeeds
+
+  EXPECT_EQ(Quietly(err, []() -> int { throw Failure(91, "", ""); }), std::nullopt);
+  EXPECT_FALSE(err.pending());
+
+  const std::string text = Quietly(err, []() -> std::string {
+                             throw Failure(13, "", "");
+                           }).value_or("fallback");
+  EXPECT_EQ(text, "fallback");
+}
+
+TEST(IgnoreFailureAt, NotesTheStatementOnlyOnAFailure) {
+  ErrorState err;
+  EXPECT_TRUE(IgnoreFailureAt(err, 30, [] {}));
+  EXPECT_EQ(err.line, 0);
+  EXPECT_FALSE(IgnoreFailureAt(err, 40, [] { throw Failure(429, "src", "cannot"); }));
+  EXPECT_EQ(err.line, 40);
+  EXPECT_EQ(err.number, 429);  // left pending for the next statement
+}
+
+TEST(ObjectOrNothing, IsNothingForEveryValueThatIsNoObject) {
+  const Object host = Host();
+  EXPECT_EQ(ObjectOrNothing(Variant(host)).TypeName(), "Folder");
+  const Variant notObjects[] = {Variant(), Variant::Null(), Variant(int32_t{7}), Variant("Folder"),
+                                Variant(Object())};
+  for (const Variant& value : notObjects) {
+    EXPECT_TRUE(ObjectOrNothing(value).IsNothing()) << static_cast<int>(value.Type());
+  }
+}
+
+TEST(QuietObject, IsNothingWhenTheReadFailsOrGivesNoObject) {
+  ErrorState err;
+  const Object host = Host();  // no members: every read fails with 438
+  EXPECT_TRUE(QuietObject(err, [&] { return host.Get("Parent"); }).IsNothing());
+  EXPECT_FALSE(err.pending());
+  EXPECT_TRUE(QuietObject(err, [] { return Variant(int32_t{3}); }).IsNothing());
+  EXPECT_EQ(QuietObject(err, [&] { return Variant(host); }).TypeName(), "Folder");
+}
+
+TEST(ScopeExit, RunsOnReturnAndThrowUnlessReleased) {
+  int runs = 0;
+  {
+    ScopeExit guard([&]() noexcept { ++runs; });
+  }
+  EXPECT_EQ(runs, 1);
+  try {
+    ScopeExit guard([&]() noexcept { ++runs; });
+    throw Failure(5, "", "");
+  } catch (const Failure&) {
+  }
+  EXPECT_EQ(runs, 2);
+  {
+    ScopeExit guard([&]() noexcept { ++runs; });
+    guard.Release();
+  }
+  EXPECT_EQ(runs, 2);
+}
+
+// A class that counts its own destructions, owned as its base.
+struct Base {
+  virtual ~Base() = default;
+};
+struct Counted : Base {
+  explicit Counted(int& destroyed) : destroyed_(destroyed) {}
+  ~Counted() override { ++destroyed_; }
+  int& destroyed_;
+};
+
+TEST(Owner, DestroysWhatMakeUniqueMadeOnceWhereverItIsReleased) {
+  int destroyed = 0;
+  {
+    Owner<Counted> owner = std::make_unique<Counted>(destroyed);
+    EXPECT_TRUE(owner);
+    Owner<Counted> moved = std::move(owner);
+    EXPECT_FALSE(owner);
+    moved = std::make_unique<Counted>(destroyed);  // the first goes here
+    EXPECT_EQ(destroyed, 1);
+    moved.reset();
+    EXPECT_EQ(destroyed, 2);
+    moved = std::make_unique<Counted>(destroyed);
+  }
+  EXPECT_EQ(destroyed, 3);  // and the last at the end of the scope
+  Owner<Base> asBase = std::make_unique<Counted>(destroyed);
+  asBase.reset();
+  EXPECT_EQ(destroyed, 4);
+  Owner<Base> empty;
+  EXPECT_FALSE(empty);
+}
+
+}  // namespace
+}  // namespace qvx
