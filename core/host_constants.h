@@ -55,6 +55,27 @@ inline constexpr int32_t msoControlEdit = 2;
 inline constexpr int32_t msoControlDropdown = 3;
 inline constexpr int32_t msoControlComboBox = 4;
 inline constexpr int32_t msoControlPopup = 10;
+// The Id that CommandBarControls.Add takes (or assumes) for a custom control.
+inline constexpr int32_t msoControlIdCustom = 1;
+
+// MsoBarPosition.
+inline constexpr int32_t msoBarLeft = 0;
+inline constexpr int32_t msoBarTop = 1;
+inline constexpr int32_t msoBarRight = 2;
+inline constexpr int32_t msoBarBottom = 3;
+inline constexpr int32_t msoBarFloating = 4;
+inline constexpr int32_t msoBarPopup = 5;
+
+// MsoBarType, a bar's Type.
+inline constexpr int32_t msoBarTypeNormal = 0;
+inline constexpr int32_t msoBarTypeMenuBar = 1;
+inline constexpr int32_t msoBarTypePopup = 2;
+
+// MsoButtonStyle.
+inline constexpr int32_t msoButtonAutomatic = 0;
+inline constexpr int32_t msoButtonIcon = 1;
+inline constexpr int32_t msoButtonCaption = 2;
+inline constexpr int32_t msoButtonIconAndCaption = 3;
 
 // PS_PUBLIC_STRINGS: the named-property set where the host keeps user fields.
 inline constexpr std::string_view kPublicStringsGuid = "{00020329-0000-0000-C000-000000000046}";

@@ -3,7 +3,8 @@
 #include <cstdio>
 
 #include "core/text.h"
-#include "sim/collection.h"
+#include "sim/application.h"
+#include "sim/name_space.h"
 
 namespace qvx::sim {
 
@@ -42,29 +43,21 @@ std::shared_ptr<SimCategory> SimCategories::Add(std::string_view name, int32_t c
   return category;
 }
 
-std::vector<Variant> SimCategories::Elements() {
-  return AsVariants(list_);
+Variant SimCategories::ParentObject() {
+  auto app = collectionContext()->app.lock();
+  return app ? app->session().AsVariant() : Variant(Object());
 }
 
 const MemberTable& SimCategories::Members() const {
   static const MemberTable table = [] {
-    MemberTable t;
+    MemberTable t = CollectionMembers();
     Define<SimCategories>(t)
-        .Get("Count",
-             [](SimCategories& c) { return Variant(static_cast<int32_t>(c.list_.size())); })
-        .Method("Item", 1, 1,
-                [](SimCategories& c, Args& a) {
-                  if (IsPositional(a[0]))
-                    return c.list_[IndexArg(a[0], c.list_.size())]->AsVariant();
-                  return OrNothing(c.Find(TextArg(a, 0)));
-                })
         .Method("Add", 1, 3,
                 [](SimCategories& c, Args& a) {
                   return c.Add(TextArg(a, 0), LongArgOr(a, 1, 0))->AsVariant();
                 })
         .Method("Remove", 1, 1, [](SimCategories& c, Args& a) {
-          const auto category =
-              IsPositional(a[0]) ? c.list_[IndexArg(a[0], c.list_.size())] : c.Find(TextArg(a, 0));
+          const auto category = IsPositional(a[0]) ? c.At(a[0]) : c.Find(TextArg(a, 0));
           if (!category) throw IndexOutOfBounds();
           std::erase(c.list_, category);
           return Variant();

@@ -2,7 +2,7 @@
 //
 // Item takes a position, a name (case-blind) or a CategoryID and gives
 // Nothing for an unknown name, as the host does; Add fails for a name that is
-// there already. Color is the host's OlCategoryColor number.
+// there already; Parent is the session. Color is the host's OlCategoryColor number.
 #pragma once
 
 #include <memory>
@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "sim/sim_object.h"
+#include "sim/collection.h"
 
 namespace qvx::sim {
 
@@ -34,19 +34,21 @@ class SimCategory : public SimObject {
   int32_t shortcutKey_ = 0;
 };
 
-class SimCategories : public SimObject {
+class SimCategories : public SimCollection<SimCategory> {
  public:
+  explicit SimCategories(ContextPtr context) : SimCollection(std::move(context)) {}
   std::string TypeName() const override { return "Categories"; }
   std::shared_ptr<SimCategory> Find(std::string_view nameOrId) const;
   std::shared_ptr<SimCategory> Add(std::string_view name, int32_t color);
-  const std::vector<std::shared_ptr<SimCategory>>& list() const { return list_; }
 
  protected:
   const MemberTable& Members() const override;
-  std::vector<Variant> Elements() override;
+  // The session.
+  Variant ParentObject() override;
+  // Nothing for an unknown name.
+  Variant ItemByKey(const Variant& key) override { return OrNothing(Find(key.ToText())); }
 
  private:
-  std::vector<std::shared_ptr<SimCategory>> list_;
   int nextId_ = 1;
 };
 

@@ -2,7 +2,14 @@
 
 #include <cstdio>
 
+#include "sim/application.h"
+
 namespace qvx::sim {
+
+Object SimContext::Application() const {
+  auto application = app.lock();
+  return application ? application->AsObject() : Object();
+}
 
 std::string SimContext::NewEntryId() {
   char buffer[49];

@@ -33,6 +33,8 @@ struct SimContext {
   uint64_t nextEntryId = 1;
   uint64_t nextStoreId = 1;
 
+  // The Application as the add-in sees it; Nothing once it is gone.
+  Object Application() const;
   DateValue Now() const { return clock ? clock() : DateValue{46023.375}; }
   // A fresh identifier in the host's form: 48 hex digits.
   std::string NewEntryId();

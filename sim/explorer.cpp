@@ -35,7 +35,7 @@ void SimExplorer::Select(std::vector<std::shared_ptr<SimItem>> items) {
 
 std::shared_ptr<SimSelection> SimExplorer::Selection() {
   auto selection = std::make_shared<SimSelection>(
-      selected_, std::static_pointer_cast<SimExplorer>(shared_from_this()));
+      context(), selected_, std::static_pointer_cast<SimExplorer>(shared_from_this()));
   selection->ShareFaults(selectionFaults_);
   return selection;
 }

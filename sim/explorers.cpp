@@ -15,7 +15,7 @@ namespace qvx::sim {
 // ---- Explorers ----
 
 std::shared_ptr<SimExplorer> SimExplorers::Add(const std::shared_ptr<SimFolder>& folder) {
-  auto explorer = std::make_shared<SimExplorer>(context_, folder);
+  auto explorer = std::make_shared<SimExplorer>(collectionContext(), folder);
   list_.push_back(explorer);
   EventArgs args{explorer->AsVariant()};
   Raise("NewExplorer", args);
@@ -31,24 +31,12 @@ std::span<const std::string_view> SimExplorers::EventNames() const {
   return kEvents;
 }
 
-std::vector<Variant> SimExplorers::Elements() {
-  return AsVariants(list_);
-}
-
 const MemberTable& SimExplorers::Members() const {
   static const MemberTable table = [] {
-    MemberTable t;
-    Define<SimExplorers>(t)
-        .Get("Count", [](SimExplorers& c) { return Variant(static_cast<int32_t>(c.list_.size())); })
-        .Method("Item", 1, 1,
-                [](SimExplorers& c, Args& a) {
-                  return c.list_[IndexArg(a[0], c.list_.size())]->AsVariant();
-                })
-        .Method(
-            "Add", 1, 2,
-            [](SimExplorers& c, Args& a) { return c.Add(SimArg<SimFolder>(a[0]))->AsVariant(); })
-        .Get("Application", [](SimExplorers& c) { return OrNothing(c.context_->app.lock()); })
-        .Get("Parent", [](SimExplorers& c) { return OrNothing(c.context_->app.lock()); });
+    MemberTable t = CollectionMembers();
+    Define<SimExplorers>(t).Method("Add", 1, 2, [](SimExplorers& c, Args& a) {
+      return c.Add(SimArg<SimFolder>(a[0]))->AsVariant();
+    });
     return t;
   }();
   return table;
@@ -57,7 +45,7 @@ const MemberTable& SimExplorers::Members() const {
 // ---- Inspectors ----
 
 std::shared_ptr<SimInspector> SimInspectors::Add(const std::shared_ptr<SimItem>& item) {
-  auto inspector = std::make_shared<SimInspector>(context_, item);
+  auto inspector = std::make_shared<SimInspector>(collectionContext(), item);
   list_.push_back(inspector);
   EventArgs args{inspector->AsVariant()};
   Raise("NewInspector", args);
@@ -73,24 +61,12 @@ std::span<const std::string_view> SimInspectors::EventNames() const {
   return kEvents;
 }
 
-std::vector<Variant> SimInspectors::Elements() {
-  return AsVariants(list_);
-}
-
 const MemberTable& SimInspectors::Members() const {
   static const MemberTable table = [] {
-    MemberTable t;
-    Define<SimInspectors>(t)
-        .Get("Count",
-             [](SimInspectors& c) { return Variant(static_cast<int32_t>(c.list_.size())); })
-        .Method("Item", 1, 1,
-                [](SimInspectors& c, Args& a) {
-                  return c.list_[IndexArg(a[0], c.list_.size())]->AsVariant();
-                })
-        .Method("Add", 1, 1,
-                [](SimInspectors& c, Args& a) { return c.Add(SimArg<SimItem>(a[0]))->AsVariant(); })
-        .Get("Application", [](SimInspectors& c) { return OrNothing(c.context_->app.lock()); })
-        .Get("Parent", [](SimInspectors& c) { return OrNothing(c.context_->app.lock()); });
+    MemberTable t = CollectionMembers();
+    Define<SimInspectors>(t).Method("Add", 1, 1, [](SimInspectors& c, Args& a) {
+      return c.Add(SimArg<SimItem>(a[0]))->AsVariant();
+    });
     return t;
   }();
   return table;

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "sim/collection.h"
 #include "sim/context.h"
-#include "sim/sim_object.h"
 
 namespace qvx::sim {
 
@@ -20,9 +20,9 @@ class SimFolder;
 class SimInspector;
 class SimItem;
 
-class SimExplorers : public SimObject {
+class SimExplorers : public SimCollection<SimExplorer> {
  public:
-  explicit SimExplorers(ContextPtr context) : context_(std::move(context)) {}
+  explicit SimExplorers(ContextPtr context) : SimCollection(std::move(context)) {}
   std::string TypeName() const override { return "Explorers"; }
 
   // Adds an explorer on `folder` and raises NewExplorer.
@@ -30,36 +30,26 @@ class SimExplorers : public SimObject {
   // Adds without an event: windows that were open before anyone listened.
   void AddSilently(const std::shared_ptr<SimExplorer>& explorer) { list_.push_back(explorer); }
   void Remove(const SimExplorer& explorer);
-  const std::vector<std::shared_ptr<SimExplorer>>& list() const { return list_; }
 
  protected:
   const MemberTable& Members() const override;
   std::span<const std::string_view> EventNames() const override;
-  std::vector<Variant> Elements() override;
-
- private:
-  ContextPtr context_;
-  std::vector<std::shared_ptr<SimExplorer>> list_;
+  Variant ParentObject() override { return Variant(collectionContext()->Application()); }
 };
 
-class SimInspectors : public SimObject {
+class SimInspectors : public SimCollection<SimInspector> {
  public:
-  explicit SimInspectors(ContextPtr context) : context_(std::move(context)) {}
+  explicit SimInspectors(ContextPtr context) : SimCollection(std::move(context)) {}
   std::string TypeName() const override { return "Inspectors"; }
 
   // Adds an inspector on `item` and raises NewInspector.
   std::shared_ptr<SimInspector> Add(const std::shared_ptr<SimItem>& item);
   void Remove(const SimInspector& inspector);
-  const std::vector<std::shared_ptr<SimInspector>>& list() const { return list_; }
 
  protected:
   const MemberTable& Members() const override;
   std::span<const std::string_view> EventNames() const override;
-  std::vector<Variant> Elements() override;
-
- private:
-  ContextPtr context_;
-  std::vector<std::shared_ptr<SimInspector>> list_;
+  Variant ParentObject() override { return Variant(collectionContext()->Application()); }
 };
 
 }  // namespace qvx::sim

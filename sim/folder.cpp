@@ -54,9 +54,9 @@ SimFolder::SimFolder(ContextPtr context, std::string name, int32_t defaultItemTy
 
 void SimFolder::Init() {
   auto self = std::static_pointer_cast<SimFolder>(shared_from_this());
-  items_ = std::make_shared<SimItems>(self);
-  folders_ = std::make_shared<SimFolders>(self);
-  views_ = std::make_shared<SimViews>(self);
+  items_ = std::make_shared<SimItems>(context_, self);
+  folders_ = std::make_shared<SimFolders>(context_, self);
+  views_ = std::make_shared<SimViews>(context_, self);
   AddStandardView(*views_, defaultItemType_);
 }
 
@@ -140,36 +140,29 @@ std::shared_ptr<SimFolder> SimFolders::Find(std::string_view name) const {
   return nullptr;
 }
 
-std::vector<Variant> SimFolders::Elements() {
-  return AsVariants(list_);
+Variant SimFolders::ParentObject() {
+  return OrNothing(owner_.lock());
+}
+
+Variant SimFolders::ItemByKey(const Variant& key) {
+  auto folder = Find(key.ToText());
+  if (!folder) {
+    throw HostFailure(hresult::kNotFound,
+                      "The attempted operation failed.  An object could not be found.");
+  }
+  return folder->AsVariant();
 }
 
 const MemberTable& SimFolders::Members() const {
   static const MemberTable table = [] {
-    MemberTable t;
-    Define<SimFolders>(t)
-        .Get("Count", [](SimFolders& c) { return Variant(static_cast<int32_t>(c.list_.size())); })
-        .Method("Item", 1, 1,
-                [](SimFolders& c, Args& a) {
-                  if (IsPositional(a[0]))
-                    return c.list_[IndexArg(a[0], c.list_.size())]->AsVariant();
-                  auto folder = c.Find(TextArg(a, 0));
-                  if (!folder) {
-                    throw HostFailure(hresult::kNotFound,
-                                      "The attempted operation failed.  An object could not be "
-                                      "found.");
-                  }
-                  return folder->AsVariant();
-                })
-        .Method("Add", 1, 2,
-                [](SimFolders& c, Args& a) {
-                  auto owner = c.owner_.lock();
-                  if (!owner) throw InvalidParameter();
-                  const int32_t type =
-                      HasArg(a, 1) ? ItemTypeOfFolderKind(LongArg(a, 1)) : owner->defaultItemType();
-                  return owner->AddSubfolder(TextArg(a, 0), type)->AsVariant();
-                })
-        .Get("Parent", [](SimFolders& c) { return OrNothing(c.owner_.lock()); });
+    MemberTable t = CollectionMembers();
+    Define<SimFolders>(t).Method("Add", 1, 2, [](SimFolders& c, Args& a) {
+      auto owner = c.owner_.lock();
+      if (!owner) throw InvalidParameter();
+      const int32_t type =
+          HasArg(a, 1) ? ItemTypeOfFolderKind(LongArg(a, 1)) : owner->defaultItemType();
+      return owner->AddSubfolder(TextArg(a, 0), type)->AsVariant();
+    });
     return t;
   }();
   return table;

@@ -12,8 +12,8 @@
 #include <string_view>
 #include <vector>
 
+#include "sim/collection.h"
 #include "sim/context.h"
-#include "sim/sim_object.h"
 
 namespace qvx::sim {
 
@@ -78,21 +78,21 @@ class SimFolder : public SimObject {
   std::vector<FolderField> fields_;
 };
 
-class SimFolders : public SimObject {
+class SimFolders : public SimCollection<SimFolder> {
  public:
-  explicit SimFolders(std::weak_ptr<SimFolder> owner) : owner_(std::move(owner)) {}
+  SimFolders(ContextPtr context, std::weak_ptr<SimFolder> owner)
+      : SimCollection(std::move(context)), owner_(std::move(owner)) {}
   std::string TypeName() const override { return "Folders"; }
   void Append(std::shared_ptr<SimFolder> folder) { list_.push_back(std::move(folder)); }
   std::shared_ptr<SimFolder> Find(std::string_view name) const;
-  const std::vector<std::shared_ptr<SimFolder>>& list() const { return list_; }
 
  protected:
   const MemberTable& Members() const override;
-  std::vector<Variant> Elements() override;
+  Variant ParentObject() override;
+  Variant ItemByKey(const Variant& key) override;
 
  private:
   std::weak_ptr<SimFolder> owner_;
-  std::vector<std::shared_ptr<SimFolder>> list_;
 };
 
 // The default item type of a folder of a host folder kind (OlDefaultFolders:

@@ -63,8 +63,8 @@ SimUserProperties& SimItem::UserProperties() {
 
 std::shared_ptr<SimUserProperties> SimItem::UserPropertiesPtr() {
   if (!userProperties_) {
-    userProperties_ =
-        std::make_shared<SimUserProperties>(std::static_pointer_cast<SimItem>(shared_from_this()));
+    userProperties_ = std::make_shared<SimUserProperties>(
+        context_, std::static_pointer_cast<SimItem>(shared_from_this()));
   }
   return userProperties_;
 }

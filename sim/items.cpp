@@ -43,8 +43,15 @@ std::span<const std::string_view> SimItems::EventNames() const {
   return kEvents;
 }
 
-std::vector<Variant> SimItems::Elements() {
-  return AsVariants(list_);
+Variant SimItems::ParentObject() {
+  return OrNothing(folder_.lock());
+}
+
+Variant SimItems::ItemByKey(const Variant& key) {
+  for (const auto& i : list_) {
+    if (i->Subject() == key.ToText()) return i->AsVariant();
+  }
+  throw IndexOutOfBounds();
 }
 
 Variant SimItems::Next() {
@@ -54,19 +61,8 @@ Variant SimItems::Next() {
 
 const MemberTable& SimItems::Members() const {
   static const MemberTable table = [] {
-    MemberTable t;
+    MemberTable t = CollectionMembers();
     Define<SimItems>(t)
-        .Get("Count", [](SimItems& c) { return Variant(static_cast<int32_t>(c.list_.size())); })
-        .Method("Item", 1, 1,
-                [](SimItems& c, Args& a) {
-                  if (IsPositional(a[0]))
-                    return c.list_[IndexArg(a[0], c.list_.size())]->AsVariant();
-                  // The default property of an item is its Subject.
-                  for (const auto& i : c.list_) {
-                    if (i->Subject() == a[0].ToText()) return i->AsVariant();
-                  }
-                  throw IndexOutOfBounds();
-                })
         .Method("Add", 0, 1,
                 [](SimItems& c, Args& a) {
                   auto folder = c.folder_.lock();
@@ -88,11 +84,10 @@ const MemberTable& SimItems::Members() const {
                 })
         .Method("Remove", 1, 1,
                 [](SimItems& c, Args& a) {
-                  c.list_[IndexArg(a[0], c.list_.size())]->Delete();
+                  c.At(a[0])->Delete();
                   return Variant();
                 })
-        .Method("Sort", 1, 2, [](SimItems&, Args&) { return Variant(); })
-        .Get("Parent", [](SimItems& c) { return OrNothing(c.folder_.lock()); });
+        .Method("Sort", 1, 2, [](SimItems&, Args&) { return Variant(); });
     return t;
   }();
   return table;

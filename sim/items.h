@@ -11,20 +11,19 @@
 #include <string_view>
 #include <vector>
 
-#include "sim/sim_object.h"
+#include "sim/collection.h"
 
 namespace qvx::sim {
 
 class SimFolder;
 class SimItem;
 
-class SimItems : public SimObject {
+class SimItems : public SimCollection<SimItem> {
  public:
-  explicit SimItems(std::weak_ptr<SimFolder> folder) : folder_(std::move(folder)) {}
+  SimItems(ContextPtr context, std::weak_ptr<SimFolder> folder)
+      : SimCollection(std::move(context)), folder_(std::move(folder)) {}
   std::string TypeName() const override { return "Items"; }
 
-  const std::vector<std::shared_ptr<SimItem>>& list() const { return list_; }
-  size_t size() const { return list_.size(); }
   bool Contains(const SimItem& item) const;
   std::shared_ptr<SimItem> FindByEntryId(std::string_view entryId) const;
 
@@ -40,13 +39,14 @@ class SimItems : public SimObject {
  protected:
   const MemberTable& Members() const override;
   std::span<const std::string_view> EventNames() const override;
-  std::vector<Variant> Elements() override;
+  Variant ParentObject() override;
+  // The default property of an item is its Subject.
+  Variant ItemByKey(const Variant& key) override;
 
  private:
   Variant Next();
 
   std::weak_ptr<SimFolder> folder_;
-  std::vector<std::shared_ptr<SimItem>> list_;
   size_t cursor_ = 0;  // of GetFirst/GetNext
 };
 

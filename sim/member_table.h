@@ -91,8 +91,10 @@ class Define {
 };
 
 // Argument readers with the runtime's conversions (13 type mismatch, 6 overflow).
+// An argument left out (not passed, Empty, or Variant::Missing() in a gap)
+// is absent.
 inline bool HasArg(const Args& args, size_t i) {
-  return i < args.size() && !args[i].IsEmpty();
+  return i < args.size() && !args[i].IsEmpty() && !args[i].IsMissing();
 }
 inline int32_t LongArg(const Args& args, size_t i) {
   return args.at(i).ToLong();
@@ -105,6 +107,12 @@ inline bool BoolArg(const Args& args, size_t i) {
 }
 inline int32_t LongArgOr(const Args& args, size_t i, int32_t fallback) {
   return HasArg(args, i) ? args[i].ToLong() : fallback;
+}
+inline std::string TextArgOr(const Args& args, size_t i, std::string fallback) {
+  return HasArg(args, i) ? args[i].ToText() : fallback;
+}
+inline bool BoolArgOr(const Args& args, size_t i, bool fallback) {
+  return HasArg(args, i) ? args[i].ToBoolean() : fallback;
 }
 
 }  // namespace qvx::sim

@@ -34,7 +34,7 @@ bool Walk(const std::shared_ptr<SimFolder>& folder,
 SimNameSpace::SimNameSpace(ContextPtr context, std::string mailboxName, std::string userName)
     : context_(std::move(context)),
       mailboxName_(std::move(mailboxName)),
-      categories_(std::make_shared<SimCategories>()),
+      categories_(std::make_shared<SimCategories>(context_)),
       currentUser_(std::make_shared<FakeObject>("Recipient")) {
   currentUser_->ReadOnly("Name", Variant(userName)).ReadOnly("Address", Variant(userName));
 }
@@ -45,7 +45,7 @@ void SimNameSpace::Init() {
                 static_cast<unsigned long long>(context_->nextStoreId++));
   root_ = MakeFolder(context_, mailboxName_, 0, storeId);
   root_->SetParent(shared_from_this());
-  stores_ = std::make_shared<SimFolders>(std::weak_ptr<SimFolder>());
+  stores_ = std::make_shared<SimFolders>(context_, std::weak_ptr<SimFolder>());
   stores_->Append(root_);
   const struct {
     int32_t kind;

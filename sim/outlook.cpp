@@ -1,5 +1,6 @@
 #include "sim/outlook.h"
 
+#include "sim/command_bars.h"
 #include "sim/explorer.h"
 #include "sim/explorers.h"
 #include "sim/folder.h"
@@ -118,6 +119,15 @@ void Outlook::Close(SimWindow& window) {
 }
 void Outlook::Quit() {
   app_->Quit();
+}
+
+void Outlook::Restart() {
+  std::vector<std::shared_ptr<SimWindow>> windows(app_->explorers().list().begin(),
+                                                  app_->explorers().list().end());
+  windows.insert(windows.end(), app_->inspectors().list().begin(), app_->inspectors().list().end());
+  for (const auto& window : windows) {
+    if (window->hasCommandBars()) window->commandBars().Restart();
+  }
 }
 
 // ---- fault injection ----

@@ -16,8 +16,9 @@
 //
 // Options::withExplorer false starts the host as automation does, with no
 // window; StartsWithoutExplorer() does the same after construction (before
-// the add-in connects). Later additions (command bars, ribbon host, views)
-// hook in through SimContext and live in their own files.
+// the add-in connects). Every window has its command bars
+// (SimWindow::commandBars, sim/command_bars.h); later additions hook in
+// through SimContext and live in their own files.
 #pragma once
 
 #include <functional>
@@ -124,6 +125,9 @@ class Outlook {
   void Activate(SimWindow& window);
   void Close(SimWindow& window);
   void Quit();
+  // The host exits and starts again with the same windows: temporary command
+  // bars and controls are gone, what was added without Temporary stays.
+  void Restart();
 
   // ---- fault injection by path from the Application ----
   // "ActiveExplorer.CurrentFolder", "Session.GetDefaultFolder(9).Items",

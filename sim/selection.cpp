@@ -7,21 +7,20 @@
 
 namespace qvx::sim {
 
-std::vector<Variant> SimSelection::Elements() {
-  return AsVariants(items_);
+SimSelection::SimSelection(ContextPtr context, std::vector<std::shared_ptr<SimItem>> items,
+                           std::weak_ptr<SimExplorer> explorer)
+    : SimCollection(std::move(context)), explorer_(std::move(explorer)) {
+  list_ = std::move(items);
+}
+
+Variant SimSelection::ParentObject() {
+  return OrNothing(explorer_.lock());
 }
 
 const MemberTable& SimSelection::Members() const {
   static const MemberTable table = [] {
-    MemberTable t;
+    MemberTable t = CollectionMembers();
     Define<SimSelection>(t)
-        .Get("Count",
-             [](SimSelection& s) { return Variant(static_cast<int32_t>(s.items_.size())); })
-        .Method("Item", 1, 1,
-                [](SimSelection& s, Args& a) {
-                  return s.items_[IndexArg(a[0], s.items_.size())]->AsVariant();
-                })
-        .Get("Parent", [](SimSelection& s) { return OrNothing(s.explorer_.lock()); })
         .Get("Location", [](SimSelection&) { return Variant(int32_t{0}); })  // olViewList
         .Get("Class", [](SimSelection&) { return Variant(int32_t{74}); });
     return t;

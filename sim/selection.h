@@ -7,26 +7,25 @@
 #include <string>
 #include <vector>
 
-#include "sim/sim_object.h"
+#include "sim/collection.h"
 
 namespace qvx::sim {
 
 class SimItem;
 class SimExplorer;
 
-class SimSelection : public SimObject {
+class SimSelection : public SimCollection<SimItem> {
  public:
-  SimSelection(std::vector<std::shared_ptr<SimItem>> items, std::weak_ptr<SimExplorer> explorer)
-      : items_(std::move(items)), explorer_(std::move(explorer)) {}
+  SimSelection(ContextPtr context, std::vector<std::shared_ptr<SimItem>> items,
+               std::weak_ptr<SimExplorer> explorer);
   std::string TypeName() const override { return "Selection"; }
-  const std::vector<std::shared_ptr<SimItem>>& items() const { return items_; }
+  const std::vector<std::shared_ptr<SimItem>>& items() const { return list(); }
 
  protected:
   const MemberTable& Members() const override;
-  std::vector<Variant> Elements() override;
+  Variant ParentObject() override;
 
  private:
-  std::vector<std::shared_ptr<SimItem>> items_;
   std::weak_ptr<SimExplorer> explorer_;
 };
 

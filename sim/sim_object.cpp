@@ -26,6 +26,9 @@ Variant SimObject::Dispatch(const Member& m, InvokeKind kind, Args& args) {
   }
   if (!m.get) throw NoSuchMember();
   if (count < m.minArgs) throw ArgumentNotOptional();
+  for (int i = 0; i < m.minArgs; ++i) {
+    if (args[static_cast<size_t>(i)].IsMissing()) throw ArgumentNotOptional();
+  }
   if (count > m.maxArgs) throw WrongArgumentCount();
   return m.get(*this, args);
 }

@@ -78,7 +78,7 @@ const MemberTable& SimUserProperty::Members() const {
 }
 
 std::shared_ptr<SimUserProperty> SimUserProperties::Find(std::string_view name) const {
-  for (const auto& p : properties_) {
+  for (const auto& p : list_) {
     if (EqualsText(p->name(), name)) return p;
   }
   return nullptr;
@@ -95,7 +95,7 @@ std::shared_ptr<SimUserProperty> SimUserProperties::Add(std::string_view name, i
   if (!property) {
     property = std::make_shared<SimUserProperty>(std::string(name), type);
     property->owner_ = std::static_pointer_cast<SimUserProperties>(shared_from_this());
-    properties_.push_back(property);
+    list_.push_back(property);
   }
   auto item = item_.lock();
   if (addToFolderFields && item) {
@@ -106,7 +106,7 @@ std::shared_ptr<SimUserProperty> SimUserProperties::Add(std::string_view name, i
 }
 
 void SimUserProperties::Remove(const SimUserProperty& property) {
-  std::erase_if(properties_, [&](const auto& p) { return p.get() == &property; });
+  std::erase_if(list_, [&](const auto& p) { return p.get() == &property; });
 }
 
 void SimUserProperties::Set(std::string_view name, int32_t type, const Variant& value) {
@@ -115,39 +115,25 @@ void SimUserProperties::Set(std::string_view name, int32_t type, const Variant& 
   property->SetValue(value);
 }
 
-std::vector<Variant> SimUserProperties::Elements() {
-  return AsVariants(properties_);
+Variant SimUserProperties::ParentObject() {
+  return OrNothing(item_.lock());
 }
 
 const MemberTable& SimUserProperties::Members() const {
   static const MemberTable table = [] {
-    MemberTable t;
+    MemberTable t = CollectionMembers();
     Define<SimUserProperties>(t)
-        .Get("Count",
-             [](SimUserProperties& c) {
-               return Variant(static_cast<int32_t>(c.properties_.size()));
-             })
         .Method("Find", 1, 2,
                 [](SimUserProperties& c, Args& a) { return OrNothing(c.Find(TextArg(a, 0))); })
-        .Method("Item", 1, 1,
-                [](SimUserProperties& c, Args& a) {
-                  if (IsPositional(a[0])) {
-                    return c.properties_[IndexArg(a[0], c.properties_.size())]->AsVariant();
-                  }
-                  return OrNothing(c.Find(TextArg(a, 0)));
-                })
         .Method("Add", 2, 4,
                 [](SimUserProperties& c, Args& a) {
                   const bool toFolder = a.size() < 3 || a[2].IsEmpty() || BoolArg(a, 2);
                   return c.Add(TextArg(a, 0), LongArg(a, 1), toFolder)->AsVariant();
                 })
-        .Method("Remove", 1, 1,
-                [](SimUserProperties& c, Args& a) {
-                  c.properties_.erase(c.properties_.begin() +
-                                      static_cast<long>(IndexArg(a[0], c.properties_.size())));
-                  return Variant();
-                })
-        .Get("Parent", [](SimUserProperties& c) { return OrNothing(c.item_.lock()); });
+        .Method("Remove", 1, 1, [](SimUserProperties& c, Args& a) {
+          c.list_.erase(c.list_.begin() + static_cast<long>(IndexArg(a[0], c.list_.size())));
+          return Variant();
+        });
     return t;
   }();
   return table;

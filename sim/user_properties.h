@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "core/host_constants.h"
-#include "sim/sim_object.h"
+#include "sim/collection.h"
 
 namespace qvx::sim {
 
@@ -49,9 +49,10 @@ class SimUserProperty : public SimObject {
   std::weak_ptr<SimUserProperties> owner_;
 };
 
-class SimUserProperties : public SimObject {
+class SimUserProperties : public SimCollection<SimUserProperty> {
  public:
-  explicit SimUserProperties(std::weak_ptr<SimItem> item) : item_(std::move(item)) {}
+  SimUserProperties(ContextPtr context, std::weak_ptr<SimItem> item)
+      : SimCollection(std::move(context)), item_(std::move(item)) {}
   std::string TypeName() const override { return "UserProperties"; }
 
   std::shared_ptr<SimUserProperty> Find(std::string_view name) const;
@@ -61,15 +62,15 @@ class SimUserProperties : public SimObject {
   void Remove(const SimUserProperty& property);
   // Test side: the property's value, adding the property if need be.
   void Set(std::string_view name, int32_t type, const Variant& value);
-  const std::vector<std::shared_ptr<SimUserProperty>>& list() const { return properties_; }
 
  protected:
   const MemberTable& Members() const override;
-  std::vector<Variant> Elements() override;
+  Variant ParentObject() override;
+  // Nothing for a name that isn't there.
+  Variant ItemByKey(const Variant& key) override { return OrNothing(Find(key.ToText())); }
 
  private:
   std::weak_ptr<SimItem> item_;
-  std::vector<std::shared_ptr<SimUserProperty>> properties_;
 };
 
 }  // namespace qvx::sim

@@ -107,36 +107,30 @@ std::shared_ptr<SimView> SimViews::current() const {
   return list_.empty() ? nullptr : list_.front();
 }
 
-std::vector<Variant> SimViews::Elements() {
-  return AsVariants(list_);
+Variant SimViews::ParentObject() {
+  return OrNothing(folder());
+}
+
+Variant SimViews::ItemByKey(const Variant& key) {
+  auto view = Find(key.ToText());
+  if (!view) throw IndexOutOfBounds();
+  return view->AsVariant();
 }
 
 const MemberTable& SimViews::Members() const {
   static const MemberTable table = [] {
-    MemberTable t;
+    MemberTable t = CollectionMembers();
     Define<SimViews>(t)
-        .Get("Count", [](SimViews& c) { return Variant(static_cast<int32_t>(c.list_.size())); })
-        .Method("Item", 1, 1,
-                [](SimViews& c, Args& a) {
-                  if (IsPositional(a[0]))
-                    return c.list_[IndexArg(a[0], c.list_.size())]->AsVariant();
-                  auto view = c.Find(TextArg(a, 0));
-                  if (!view) throw IndexOutOfBounds();
-                  return view->AsVariant();
-                })
         .Method("Add", 2, 3,
                 [](SimViews& c, Args& a) {
                   return c.Add(TextArg(a, 0), LongArg(a, 1), LongArgOr(a, 2, 0))->AsVariant();
                 })
-        .Method("Remove", 1, 1,
-                [](SimViews& c, Args& a) {
-                  const auto view = IsPositional(a[0]) ? c.list_[IndexArg(a[0], c.list_.size())]
-                                                       : c.Find(TextArg(a, 0));
-                  if (!view) throw IndexOutOfBounds();
-                  c.Remove(*view);
-                  return Variant();
-                })
-        .Get("Parent", [](SimViews& c) { return OrNothing(c.folder()); });
+        .Method("Remove", 1, 1, [](SimViews& c, Args& a) {
+          const auto view = IsPositional(a[0]) ? c.At(a[0]) : c.Find(TextArg(a, 0));
+          if (!view) throw IndexOutOfBounds();
+          c.Remove(*view);
+          return Variant();
+        });
     return t;
   }();
   return table;

@@ -13,7 +13,7 @@
 #include <string_view>
 #include <vector>
 
-#include "sim/sim_object.h"
+#include "sim/collection.h"
 
 namespace qvx::sim {
 
@@ -52,9 +52,10 @@ class SimView : public SimObject {
   bool deleted_ = false;
 };
 
-class SimViews : public SimObject {
+class SimViews : public SimCollection<SimView> {
  public:
-  explicit SimViews(std::weak_ptr<SimFolder> folder) : folder_(std::move(folder)) {}
+  SimViews(ContextPtr context, std::weak_ptr<SimFolder> folder)
+      : SimCollection(std::move(context)), folder_(std::move(folder)) {}
   std::string TypeName() const override { return "Views"; }
 
   std::shared_ptr<SimView> Find(std::string_view name) const;
@@ -63,16 +64,15 @@ class SimViews : public SimObject {
   void Remove(const SimView& view);
   std::shared_ptr<SimView> current() const;
   void SetCurrent(const std::shared_ptr<SimView>& view) { current_ = view; }
-  const std::vector<std::shared_ptr<SimView>>& list() const { return list_; }
   std::shared_ptr<SimFolder> folder() const { return folder_.lock(); }
 
  protected:
   const MemberTable& Members() const override;
-  std::vector<Variant> Elements() override;
+  Variant ParentObject() override;
+  Variant ItemByKey(const Variant& key) override;
 
  private:
   std::weak_ptr<SimFolder> folder_;
-  std::vector<std::shared_ptr<SimView>> list_;
   std::weak_ptr<SimView> current_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "sim/application.h"
 #include "sim/collection.h"
+#include "sim/command_bars.h"
 #include "sim/name_space.h"
 
 namespace qvx::sim {
@@ -31,9 +32,17 @@ bool SimWindow::IsActive() const {
 }
 
 Object SimWindow::CommandBars() {
-  if (commandBars_.IsNothing() && context_->commandBars)
-    commandBars_ = context_->commandBars(*this);
+  if (!context_->commandBars) return commandBars().AsObject();
+  if (commandBars_.IsNothing()) commandBars_ = context_->commandBars(*this);
   return commandBars_;
+}
+
+SimCommandBars& SimWindow::commandBars() {
+  if (!bars_) {
+    bars_ = std::make_shared<SimCommandBars>(context_, weak_from_this());
+    bars_->Init();
+  }
+  return *bars_;
 }
 
 void SimWindow::CheckUsable() const {

@@ -1,5 +1,6 @@
 // SimWindow: what explorers and inspectors share: being shown, activated
-// and closed, a caption, and the command bars that the context's hook makes.
+// and closed, a caption, and the window's command bars (SimCommandBars, made
+// at first use; the context's hook, if set, gives another object instead).
 //
 // Activate makes the window the host's active one: the window that was
 // active before gets Deactivate, then this one Activate. Close raises Close
@@ -17,6 +18,8 @@
 
 namespace qvx::sim {
 
+class SimCommandBars;
+
 class SimWindow : public SimObject {
  public:
   explicit SimWindow(ContextPtr context) : context_(std::move(context)) {}
@@ -28,8 +31,12 @@ class SimWindow : public SimObject {
   bool displayed() const { return displayed_; }
   bool closed() const { return closed_; }
   bool IsActive() const;
-  // The window's command bars: made once by the context's hook, Nothing without one.
+  // What CommandBars gives: the context's hook's object, else commandBars().
   Object CommandBars();
+  // The window's own command bars, made at first use.
+  SimCommandBars& commandBars();
+  // Whether commandBars() has been made.
+  bool hasCommandBars() const { return bars_ != nullptr; }
   const ContextPtr& context() const { return context_; }
 
  protected:
@@ -43,6 +50,7 @@ class SimWindow : public SimObject {
   bool closed_ = false;
   int32_t windowState_ = 0;  // olMaximized
   Object commandBars_;
+  std::shared_ptr<SimCommandBars> bars_;
 };
 
 }  // namespace qvx::sim

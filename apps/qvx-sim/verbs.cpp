@@ -17,6 +17,7 @@ void RegisterAllVerbs(VerbTable& table) {
   RegisterCatalogueVerbs(table);
   RegisterTaggingVerbs(table);
   RegisterRibbonVerbs(table);
+  RegisterBarVerbs(table);
 }
 
 void ExpectEqual(const std::string& expected, const std::string& seen) {

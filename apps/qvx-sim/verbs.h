@@ -26,6 +26,7 @@ void RegisterReportVerbs(VerbTable& table);
 void RegisterCatalogueVerbs(VerbTable& table);
 void RegisterTaggingVerbs(VerbTable& table);
 void RegisterRibbonVerbs(VerbTable& table);
+void RegisterBarVerbs(VerbTable& table);
 
 // The first item with this subject in the active explorer's folder, else in
 // any folder; a usage error when there is none.

@@ -1,5 +1,5 @@
-// host version / no-explorer / mailbox / fail / open-explorer / close-explorer,
-// expect explorers / explorer-folder
+// host version / no-explorer / mailbox / fail / open-explorer / close-explorer /
+// restart, expect explorers / explorer-folder
 #include "apps/qvx-sim/verbs.h"
 #include "apps/qvx-sim/world.h"
 #include "sim/explorer.h"
@@ -50,6 +50,13 @@ void RegisterHostVerbs(VerbTable& table) {
               } catch (const Failure& f) {
                 throw UsageError("no such object: " + a.At(0) + " (" + f.description() + ")");
               }
+            });
+  table.Add("host restart", "host restart",
+            "the host exits and starts again: the add-in is shut down and loaded anew, "
+            "temporary command bars are gone",
+            [](World& w, const Args& a) {
+              a.Expect(0);
+              w.RestartHost();
             });
   table.Add("host open-explorer", "host open-explorer calendar|tasks|inbox",
             "the user opens an explorer on a default folder", [](World& w, const Args& a) {

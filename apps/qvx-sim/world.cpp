@@ -106,4 +106,10 @@ void World::Finish() {
   system_->WaitForChildren();
 }
 
+void World::RestartHost() {
+  Finish();
+  addin_.reset();
+  host_->Restart();
+}
+
 }  // namespace qvx::scenario

@@ -77,6 +77,10 @@ class World {
 
   // Ends the run: the host shuts the add-in down if it still runs.
   void Finish();
+  // The host exits and starts again: it shuts the add-in down as at the end
+  // of a run, drops temporary command bars, and loads a fresh add-in object
+  // at its next use. Windows, items and the registry stay.
+  void RestartHost();
 
  private:
   std::string folder_;

@@ -15,7 +15,9 @@
 namespace qvx {
 namespace {
 
-Object Host() { return Object(std::make_shared<platform::NativeObject>("Folder")); }
+Object Host() {
+  return Object(std::make_shared<platform::NativeObject>("Folder"));
+}
 
 TEST(Quietly, GivesTheValueOrNothingAndLeavesNoErrorPending) {
   ErrorState err;
@@ -26,9 +28,8 @@ TEST(Quietly, GivesTheValueOrNothingAndLeavesNoErrorPending) {
   EXPECT_EQ(Quietly(err, []() -> int { throw Failure(91, "", ""); }), std::nullopt);
   EXPECT_FALSE(err.pending());
 
-  const std::string text = Quietly(err, []() -> std::string {
-                             throw Failure(13, "", "");
-                           }).value_or("fallback");
+  const std::string text =
+      Quietly(err, []() -> std::string { throw Failure(13, "", ""); }).value_or("fallback");
   EXPECT_EQ(text, "fallback");
 }
 

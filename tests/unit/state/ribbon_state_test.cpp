@@ -37,9 +37,12 @@ TEST(InspectorPools, EveryNameReachesItsOwnFieldAsTextOrFlag) {
     }
   }
   const Row custom[] = {
-      {"SELECTED_INSPECTOR_CUSTOM_FIELD1_VALUE", true}, {"SELECTED_INSPECTOR_CUSTOM_FIELD4_VALUE", true},
-      {"CUSTOM_FIELD2_INSPECTOR_ENABLED", false},       {"CUSTOM_FIELD3_INSPECTOR_ENABLED", false},
-      {"blnCustomField1VisibleInspector", false},       {"blnCustomField4VisibleInspector", false},
+      {"SELECTED_INSPECTOR_CUSTOM_FIELD1_VALUE", true},
+      {"SELECTED_INSPECTOR_CUSTOM_FIELD4_VALUE", true},
+      {"CUSTOM_FIELD2_INSPECTOR_ENABLED", false},
+      {"CUSTOM_FIELD3_INSPECTOR_ENABLED", false},
+      {"blnCustomField1VisibleInspector", false},
+      {"blnCustomField4VisibleInspector", false},
   };
   for (const Row& row : custom) {
     CustomFieldsToolbarPool pool;
