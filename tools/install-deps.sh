@@ -3,7 +3,7 @@
 # for packages that are already there. Pass "windows" to add the MinGW-w64
 # cross compilers, Wine and Xvfb.
 set -euo pipefail
-packages=(g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev clang-format python3)
+packages=(g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev clang-format python3 libxml2-dev)
 if [[ "${1:-}" == "windows" ]]; then
   packages+=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64 xvfb xauth)
 fi

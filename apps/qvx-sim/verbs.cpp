@@ -17,6 +17,8 @@ void RegisterAllVerbs(VerbTable& table) {
   RegisterCatalogueVerbs(table);
   RegisterTaggingVerbs(table);
   RegisterRibbonVerbs(table);
+  RegisterRibbonUserVerbs(table);
+  RegisterRibbonStandInVerbs(table);
   RegisterBarVerbs(table);
 }
 

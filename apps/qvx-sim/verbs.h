@@ -26,6 +26,8 @@ void RegisterReportVerbs(VerbTable& table);
 void RegisterCatalogueVerbs(VerbTable& table);
 void RegisterTaggingVerbs(VerbTable& table);
 void RegisterRibbonVerbs(VerbTable& table);
+void RegisterRibbonUserVerbs(VerbTable& table);
+void RegisterRibbonStandInVerbs(VerbTable& table);
 void RegisterBarVerbs(VerbTable& table);
 
 // The first item with this subject in the active explorer's folder, else in

@@ -32,10 +32,13 @@ std::string CallByName(World& w, const std::string& name, std::vector<Variant> a
   return seen;
 }
 
-// Invalidations of the whole ribbon since the last expectation about them.
+// Invalidations of the whole ribbon since the last expectation about them:
+// of the ribbon handed over by "ribbon load" and of the host's own ribbons.
 int TakeInvalidations(World& w) {
-  const int count = w.ribbonUi().CallCount("Invalidate");
+  const int hostCount = w.ribbonHost().InvalidationCount();
+  const int count = w.ribbonUi().CallCount("Invalidate") + hostCount - w.ribbonInvalidationsSeen;
   w.ribbonUi().ResetCallCounts();
+  w.ribbonInvalidationsSeen = hostCount;
   return count;
 }
 

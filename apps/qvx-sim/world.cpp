@@ -46,6 +46,10 @@ World::World() : folder_(MakeFolder()) {
 }
 
 World::~World() {
+  ribbonWindow = nullptr;
+  ribbonHost_.reset();  // the ribbon calls the add-in: it goes first
+  scriptedRibbon_.reset();
+  ribbonClient_.reset();
   addin_.reset();
   host_.reset();
   system_->WaitForChildren();
@@ -61,6 +65,20 @@ sim::FakeObject& World::ribbonUi() {
         .Method("InvalidateControl", 1, 1, [](sim::Args&) { return Variant(); });
   }
   return *ribbonUi_;
+}
+
+sim::ScriptedRibbonAddin& World::scriptedRibbon() {
+  if (!scriptedRibbon_) {
+    ribbonClient_ =
+        std::make_unique<sim::AddinRibbonClient>([this]() -> QVXClientAddin& { return addin(); });
+    scriptedRibbon_ = std::make_unique<sim::ScriptedRibbonAddin>(ribbonClient_.get());
+  }
+  return *scriptedRibbon_;
+}
+
+sim::RibbonHost& World::ribbonHost() {
+  if (!ribbonHost_) ribbonHost_ = std::make_unique<sim::RibbonHost>(scriptedRibbon());
+  return *ribbonHost_;
 }
 
 QVXClientAddin& World::addin() {
@@ -108,6 +126,11 @@ void World::Finish() {
 
 void World::RestartHost() {
   Finish();
+  // A new host loads its ribbons anew; the script's stand-in markup stays.
+  ribbonWindow = nullptr;
+  ribbonHost_.reset();
+  ribbonActionsSeen = 0;
+  ribbonInvalidationsSeen = 0;
   addin_.reset();
   host_->Restart();
 }

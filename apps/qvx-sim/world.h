@@ -24,6 +24,8 @@
 #include "sim/fake_object.h"
 #include "sim/mail_library_standin.h"
 #include "sim/outlook.h"
+#include "sim/ribbon/ribbon_host.h"
+#include "sim/ribbon/scripted_ribbon_addin.h"
 
 namespace qvx::scenario {
 
@@ -55,6 +57,14 @@ class World {
   // The host's ribbon (IRibbonUI), handed to the add-in when the ribbon loads.
   sim::FakeObject& ribbonUi();
 
+  // The simulated Office ribbon (its windows, what they show), and the add-in
+  // side it calls: the script's own markup and callbacks ("ribbon markup",
+  // "ribbon answer") in front of the add-in's.
+  sim::RibbonHost& ribbonHost();
+  sim::ScriptedRibbonAddin& scriptedRibbon();
+  // The ribbon window the user looks at, once "ribbon open" showed one.
+  sim::RibbonWindow* ribbonWindow = nullptr;
+
   // Lets pending work through: queued host events and window messages.
   void Pump();
   // Waits for the launched programs to end (before reading their journal).
@@ -68,6 +78,8 @@ class World {
   size_t launchesSeen = 0;
   size_t boxesSeen = 0;
   size_t formsSeen = 0;
+  size_t ribbonActionsSeen = 0;
+  int ribbonInvalidationsSeen = 0;
   // Journal lines already expected, by position; programs run side by side,
   // so their lines are matched in any order.
   std::vector<bool> journalTaken;
@@ -78,8 +90,8 @@ class World {
   // Ends the run: the host shuts the add-in down if it still runs.
   void Finish();
   // The host exits and starts again: it shuts the add-in down as at the end
-  // of a run, drops temporary command bars, and loads a fresh add-in object
-  // at its next use. Windows, items and the registry stay.
+  // of a run, drops temporary command bars and its ribbons, and loads a
+  // fresh add-in object at its next use. Windows, items and the registry stay.
   void RestartHost();
 
  private:
@@ -94,6 +106,9 @@ class World {
   std::unique_ptr<sim::MailLibraryStandIn> mailLibrary_;
   std::unique_ptr<QVXClientAddin> addin_;
   std::shared_ptr<sim::FakeObject> ribbonUi_;
+  std::unique_ptr<sim::AddinRibbonClient> ribbonClient_;
+  std::unique_ptr<sim::ScriptedRibbonAddin> scriptedRibbon_;
+  std::unique_ptr<sim::RibbonHost> ribbonHost_;
 };
 
 }  // namespace qvx::scenario
