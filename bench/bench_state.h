@@ -1,34 +1,14 @@
-// An add-in state for benchmarks: no registry, no host, a user interface
-// that only counts the forms shown (a failure report is one).
+// The test add-in (sim/test_addin.h) for benchmarks, with the one question a
+// benchmark asks after its loop.
 #pragma once
 
-#include "addin/upward_calls.h"
-#include "platform/form_model.h"
-#include "sim/inert_platform.h"
-#include "state/addin_state.h"
+#include "sim/test_addin.h"
 
 namespace qvx::bench {
 
-class CountingUi final : public platform::UserInterface {
- public:
-  int MessageBox(std::string_view, int, std::string_view) override { return 1; }
-  void ShowModal(platform::FormModel&) override { ++forms; }
-  int forms = 0;
-};
-
-using sim::InertSystem;
-using sim::NoObjects;
-
-struct BenchState {
-  BenchState() { ConnectUpwardCalls(s); }
-
-  CountingUi ui;
-  InertSystem system;
-  NoObjects objects;
-  AddinState s{platform::Platform{
-      .registry = nullptr, .objects = &objects, .ui = &ui, .system = &system, .windows = nullptr}};
-  // True when nothing was reported or left pending.
-  bool Clean() const { return ui.forms == 0 && !s.err.pending(); }
+struct BenchState : sim::TestAddin {
+  // True when nothing was shown (a failure report is a form) or left pending.
+  bool Clean() const { return ui.Forms().empty() && ui.MessageBoxes().empty() && !s.err.pending(); }
 };
 
 }  // namespace qvx::bench

@@ -7,10 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "addin/upward_calls.h"
 #include "bench_state.h"
 #include "core/dates.h"
-#include "platform/posix/posix_system.h"
 #include "reporting/color_codes.h"
 #include "reporting/tag_selection.h"
 #include "reporting/tag_values.h"
@@ -22,18 +20,11 @@
 namespace qvx::bench {
 namespace {
 
-platform::PosixSystemOptions Recording() {
-  platform::PosixSystemOptions options;
-  options.spawn = false;
-  return options;
-}
-
 // An add-in connected to a host whose calendar explorer has `count`
 // appointments selected, the catalogue holding `projects` projects.
-struct TaggingWorld {
-  TaggingWorld(int count, int projects) : system(Recording()) {
-    ConnectUpwardCalls(s);
-    s.main.objOutlook = host.Application();
+struct TaggingWorld : sim::SimulatedHost, BenchState {
+  TaggingWorld(int count, int projects) {
+    ConnectHost(host);
     s.main.objNameSpace = host.Application().Get("Session").ToObject();
     system.SetDoEventsHook([this] { host.Pending().RunPending(); });
     s.main.objMySettings = std::make_unique<cMySettings>();
@@ -54,14 +45,7 @@ struct TaggingWorld {
     }
     host.Select(*explorer, items);
   }
-  bool Clean() const { return ui.forms == 0 && !s.err.pending(); }
 
-  sim::Outlook host;
-  CountingUi ui;
-  NoObjects objects;
-  platform::PosixSystemServices system;
-  AddinState s{platform::Platform{
-      .registry = nullptr, .objects = &objects, .ui = &ui, .system = &system, .windows = nullptr}};
   std::shared_ptr<sim::SimExplorer> explorer;
   std::vector<std::shared_ptr<sim::SimItem>> items;
 };
@@ -82,7 +66,7 @@ BENCHMARK(BM_TagSelection)->Arg(10)->Arg(1000)->Unit(benchmark::kMillisecond);
 void BM_TagProjectValue(benchmark::State& state) {
   TaggingWorld world(static_cast<int>(state.range(0)), 1);
   for (auto _ : state) {
-    world.s.ribbon.explorer.SELECTED_ACTIVITY_VALUE = "Build";
+    world.s.tagging.SELECTED_ACTIVITY_VALUE = "Build";
     Main::TagProjectValueToItem(world.s, "Alpha");
   }
   if (!world.Clean()) state.SkipWithError("a failure was reported");

@@ -28,6 +28,7 @@ inline constexpr int32_t olDuration = 7;
 inline constexpr int32_t olKeywords = 11;
 inline constexpr int32_t olPercent = 12;
 inline constexpr int32_t olCurrency = 14;
+inline constexpr int32_t olCombination = 19;
 inline constexpr int32_t olInteger = 20;
 
 // OlObjectClass.

@@ -8,7 +8,8 @@
 # must export exactly the four self-registration entry points and import
 # only system DLLs. The x64 test host then runs under Wine in a private,
 # throw-away WINEPREFIX inside a virtual X server; FILTER narrows it to tests
-# whose "Suite.Name" contains it.
+# whose "Suite.Name" contains it. The Object contract suite of the native
+# tests then runs on the IDispatch face of the simulated objects.
 #
 # Environment: QVX_WINEPREFIX=DIR reuses (and keeps) a prefix instead of a
 # fresh one, which saves its set-up when run again and again by hand.
@@ -59,7 +60,7 @@ check_dll i686-w64-mingw32-objdump build/mingw-x86/bin/QVXClient.dll
 echo "== built in $((SECONDS - started)) s"
 
 bin="$root/build/mingw-x64/bin"
-for program in qvx_wine_tests.exe QuorvixClient.exe qvx_post_message.exe QVXClient.dll; do
+for program in qvx_wine_tests.exe qvx_wine_contract_tests.exe QuorvixClient.exe qvx_post_message.exe QVXClient.dll; do
   [[ -f "$bin/$program" ]] || {
     echo "wine tests: $bin/$program was not built" >&2
     exit 1
@@ -91,6 +92,7 @@ timeout -k 30 900 xvfb-run -a bash -c '
   cd "$1"
   wine ./qvx_wine_tests.exe "$2"
   result=$?
+  wine ./qvx_wine_contract_tests.exe "--gtest_filter=*${2}*" || result=1
   wineserver -k 2>/dev/null
   exit $result
 ' wine-tests "$bin" "$filter"

@@ -1,5 +1,5 @@
 // expect launch / no-launch / journal / no-journal, post client|manager, companion answers,
-// pump, wait programs, expect window / no-window
+// pump, wait programs, wait companion, expect window / no-window
 #include <algorithm>
 
 #include <stdlib.h>
@@ -122,6 +122,16 @@ void RegisterCompanionVerbs(VerbTable& table) {
             [](World& w, const Args& a) {
               a.Expect(0);
               w.WaitForPrograms();
+            });
+  table.Add("wait companion", "wait companion",
+            "waits until the started programs have ended and everything they posted has been "
+            "delivered, and so on for the programs that this starts",
+            [](World& w, const Args& a) {
+              a.Expect(0);
+              if (!w.SettleCompanion()) {
+                throw ExpectationFailed("the companion stand-ins at rest",
+                                        "still started and posting after 100 rounds");
+              }
             });
   table.Add("expect window", "expect window CAPTION", "a listener window with this caption exists",
             [](World&, const Args& a) {

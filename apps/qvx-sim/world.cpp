@@ -100,12 +100,26 @@ void World::InstallMailLibrary(const sim::MailLibraryOptions& options) {
   mailLibrary_->Install(*objects_);
 }
 
-void World::Pump() {
+size_t World::Pump() {
   // Window messages and host events may each cause more of the other.
+  size_t total = 0;
   for (int round = 0; round < 100; ++round) {
     const size_t ran = host_->Pending().RunPending() + windows_.DispatchPending();
     if (ran == 0) break;
+    total += ran;
   }
+  return total;
+}
+
+bool World::SettleCompanion(int rounds) {
+  // A program's post is in the listener's queue once the program has ended
+  // (a local datagram is queued when it is sent), so reaping first and then
+  // draining leaves nothing behind; a delivery may start programs again.
+  for (int round = 0; round < rounds; ++round) {
+    WaitForPrograms();
+    if (Pump() == 0) return true;
+  }
+  return false;
 }
 
 std::vector<std::string> World::JournalLines() const {

@@ -66,9 +66,15 @@ class World {
   sim::RibbonWindow* ribbonWindow = nullptr;
 
   // Lets pending work through: queued host events and window messages.
-  void Pump();
+  // Returns how many ran.
+  size_t Pump();
   // Waits for the launched programs to end (before reading their journal).
   void WaitForPrograms() { system_->WaitForChildren(); }
+  // Waits until the launched programs have ended and everything they posted
+  // has been delivered, and so on for the programs that this delivery
+  // started. False if programs were still being started after `rounds`
+  // rounds (a companion that answers every call with a call).
+  bool SettleCompanion(int rounds = 100);
   // The companion stand-ins' journal lines so far.
   std::vector<std::string> JournalLines() const;
   const std::string& folder() const { return folder_; }

@@ -34,7 +34,7 @@ TEST(UpwardCalls, AStateNotConnectedReportsNothingAndTearsNothingDown) {
 TEST(UpwardCalls, AConnectedStateReachesTheReporterAndTheTearDown) {
   TestAddin t;  // connected as the add-in connects its own
   FailTrapped(t.s);
-  EXPECT_TRUE(t.Reported("Main.Probe", 20));
+  EXPECT_TRUE(t.Reported("Main.Probe"));
   // No explorers' sink and no ribbon yet: the refreshes have nothing to do.
   t.s.upward().UpdateAllDisplayedToolbars();
   t.s.upward().subInvalidateRibbon();

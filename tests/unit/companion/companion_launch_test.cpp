@@ -18,14 +18,10 @@ bool EndsWith(std::string_view text, std::string_view tail) {
 
 // The add-in's folder is the stand-ins' folder; launches are recorded only.
 struct LaunchTest : ::testing::Test {
-  static platform::PosixSystemOptions Options() {
-    platform::PosixSystemOptions options = testing::TestAddin::RecordingOptions(QVX_STANDIN_FOLDER);
-    options.environment["USERNAME"] = "Jane Doe";
-    return options;
-  }
   const std::vector<platform::LaunchRecord>& Launches() const { return t.system.Launches(); }
 
-  testing::TestAddin t{Options()};
+  testing::TestAddin t{
+      {.addinFolder = QVX_STANDIN_FOLDER, .environment = {{"USERNAME", "Jane Doe"}}}};
 };
 
 TEST_F(LaunchTest, EverySectionStartsTheClientWithItsNumber) {
@@ -72,7 +68,7 @@ TEST_F(LaunchTest, WithoutSettingsTheStatisticsReportAndStartNothing) {
   t.s.main.objMySettings.reset();
   subLoadOLAPStatistics(t.s);
   EXPECT_TRUE(Launches().empty());
-  EXPECT_TRUE(t.Reported("Main.subLoadOLAPStatistics", 10));
+  EXPECT_TRUE(t.Reported("Main.subLoadOLAPStatistics"));
 }
 
 TEST_F(LaunchTest, TheTutorialIsALinkOnTheProductSite) {

@@ -116,7 +116,7 @@ TEST_F(MailLibraryTest, AnItemWithoutThePropertyFallsBackToTheHost) {
 TEST_F(MailLibraryTest, AFailedReadAfterAValidTagIsReported) {
   Install([](MailLibraryOptions& o) { o.failGetOneProp = true; });
   EXPECT_EQ(Read("ReportedID", VarType::String), Variant());
-  EXPECT_TRUE(t.Reported("ZNBLib.GetFieldValueFromItem", 30));
+  EXPECT_TRUE(t.Reported("ZNBLib.GetFieldValueFromItem"));
 }
 
 TEST_F(MailLibraryTest, AfterCleanupTheNextReadCreatesTheObjectAgain) {

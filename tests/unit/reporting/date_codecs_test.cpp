@@ -24,7 +24,7 @@ TEST(QuorvixDateFormat, WritesYearMonthDayWithoutPaddingAndReadsItBack) {
   EXPECT_EQ(ToQuorvixDateFormat(t.s, Variant("3/7/2010")), "2010-3-7");
   EXPECT_TRUE(t.Reports().empty());
   EXPECT_EQ(ToQuorvixDateFormat(t.s, Variant("not a date")), "");
-  EXPECT_TRUE(t.Reported("Global.ToQuorvixDateFormat", 10));
+  EXPECT_TRUE(t.Reported("Global.ToQuorvixDateFormat"));
 }
 
 TEST(DateToQuorvixText, TheYearsOfNoDateGiveEmptyText) {

@@ -66,7 +66,7 @@ TEST(DefaultValues, WithoutASettingsRecordEachReportsUnderItsNameAndIsEmpty) {
     testing::TestAddin t;  // only the first report of a process is shown
     t.s.main.objMySettings.reset();
     EXPECT_EQ(get(t.s), "");
-    EXPECT_TRUE(t.Reported(label, 10)) << label;
+    EXPECT_TRUE(t.Reported(label)) << label;
   }
 }
 

@@ -55,7 +55,7 @@ TEST_F(ItemFilters, AnyActiveCustomFieldIsEnough) {
   EXPECT_FALSE(AreAllCustomFieldsActive(t.s));
   t.s.main.objMySettings.reset();
   EXPECT_FALSE(AreAllCustomFieldsActive(t.s));
-  EXPECT_TRUE(t.Reported("Main.AreAllCustomFieldsActive", 10));
+  EXPECT_TRUE(t.Reported("Main.AreAllCustomFieldsActive"));
 }
 
 TEST_F(ItemFilters, TheDefaultFolderRestrictionsFollowTheFoldersKind) {
@@ -88,7 +88,7 @@ TEST_F(ItemFilters, TheDefaultFolderRestrictionsFollowTheFoldersKind) {
   // A folder that cannot be read is reported and is no default one.
   notes->FailMember("DefaultItemType", -2147467259, "The operation failed.");
   EXPECT_FALSE(IsDefaultFolder(t.s, notes->AsObject()));
-  EXPECT_TRUE(t.Reported("Main.IsDefaultFolder", 10));
+  EXPECT_TRUE(t.Reported("Main.IsDefaultFolder"));
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ inline std::string StandInFolder() {
 
 class ReportTest : public ::testing::Test {
  protected:
-  ReportTest() : t(TestAddin::RecordingOptions(StandInFolder())) {
+  ReportTest() : t({.addinFolder = StandInFolder()}) {
     t.s.main.objOutlook = world.Application();
     t.s.main.objNameSpace = world.Application().Get("Session").ToObject();
     cMySettings& c = t.settings();

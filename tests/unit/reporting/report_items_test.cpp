@@ -90,7 +90,7 @@ TEST_F(ReportItems, AnItemOfAnotherClassEndsTheValidation) {
   ReportItemsToDB(t.s);
   EXPECT_TRUE(Launches().empty());
   EXPECT_TRUE(ProblemLists().empty());
-  EXPECT_TRUE(t.Reported("Main.ReportToDB", 220));  // IsRecurring, of the second item
+  EXPECT_TRUE(t.Reported("Main.ReportToDB"));  // IsRecurring, of the second item
 }
 
 TEST_F(ReportItems, AnOnlyItemThatHasGoneEndsIt) {
@@ -99,7 +99,7 @@ TEST_F(ReportItems, AnOnlyItemThatHasGoneEndsIt) {
   gone->Delete();
   ReportItemsToDB(t.s);
   EXPECT_TRUE(Launches().empty());
-  EXPECT_TRUE(t.Reported("Main.ReportToDB", 300));
+  EXPECT_TRUE(t.Reported("Main.ReportToDB"));
 }
 
 }  // namespace

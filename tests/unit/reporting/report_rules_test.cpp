@@ -135,7 +135,7 @@ TEST_F(ReportRules, ADefaultStandsInWithoutBeingWritten) {
 TEST_F(ReportRules, WithoutSettingsTheTestIsReportedAndGivesNothing) {
   t.s.main.objMySettings.reset();
   EXPECT_EQ(AllMandatoryFieldsFilled(t.s, Appointment("A")->AsObject()), "");
-  EXPECT_TRUE(t.Reported("Main.AllMandatoryFieldsFilled", 10));
+  EXPECT_TRUE(t.Reported("Main.AllMandatoryFieldsFilled"));
 }
 
 }  // namespace

@@ -129,7 +129,7 @@ TEST_F(TagItemTest, RefusalsArePassedOverButARefusedValueIsReported) {
       .Add("ProjectValue", host::olText, false)
       ->FailMember("Value", sim::hresult::kFail, "The property is read-only.");
   EXPECT_FALSE(Tag(*readOnly, "ProjectValue", "Alpha"));
-  EXPECT_TRUE(Reported("Actions.TagProjectToItem", 20));
+  EXPECT_TRUE(Reported("Actions.TagProjectToItem"));
   EXPECT_EQ(readOnly->saveCount(), savesBefore);
   EXPECT_EQ(Categories(*readOnly), "");
 }

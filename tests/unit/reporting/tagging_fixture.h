@@ -20,6 +20,7 @@
 #include "sim/task_item.h"
 #include "sim/user_properties.h"
 #include "state/addin_state.h"
+#include "unit/support/failure_report.h"
 
 namespace qvx {
 
@@ -89,14 +90,9 @@ class TaggingTest : public ::testing::Test {
     }
     return reports;
   }
-  // True if the first report is of `label` at `line`.
-  bool Reported(std::string_view label, int line) {
-    const std::string where =
-        "At Line: " + std::to_string(line) + "\r\nIn Function: " + std::string(label) + "\r\n";
-    for (const std::string& report : Reports()) {
-      if (report.rfind(where, 0) == 0) return true;
-    }
-    return false;
+  // Whether a report was shown of a failure trapped under `label`.
+  ::testing::AssertionResult Reported(std::string_view label) {
+    return ReportsTrap(Reports(), label);
   }
 
   scenario::World world;

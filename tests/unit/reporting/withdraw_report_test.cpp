@@ -75,7 +75,7 @@ TEST_F(WithdrawReport, ARefusedEntryIdIsReportedAndNothingSent) {
   a->FailMember("EntryID", -2147467259, "The operation failed.");
   WithReportFromDB(t.s, Store(), a->AsObject());
   EXPECT_TRUE(Launches().empty());
-  EXPECT_TRUE(t.Reported("Main.WithReportFromDB", 30));
+  EXPECT_TRUE(t.Reported("Main.WithReportFromDB"));
 }
 
 }  // namespace

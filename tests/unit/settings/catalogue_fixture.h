@@ -8,6 +8,7 @@
 #include "core/dates.h"
 #include "settings/tasks_per_project_list.h"
 #include "settings_fixture.h"
+#include "unit/support/failure_report.h"
 
 namespace qvx::testing {
 
@@ -27,9 +28,12 @@ struct CatalogueFixture : SettingsFixture {
     if (found == nullptr) throw std::runtime_error("no project " + std::string(name));
     return **found;
   }
-  // The label of the one report shown, or "" when none was.
-  std::string ReportedLabel() const {
-    return ui.reports.empty() ? std::string() : ReportLine(ui.reports.front(), 1);
+  // Whether one report was shown, of a failure trapped under `label`.
+  ::testing::AssertionResult ReportedOnce(std::string_view label) const {
+    if (Reports().size() != 1) {
+      return ::testing::AssertionFailure() << Reports().size() << " reports";
+    }
+    return ReportIsTrap(Reports().front(), label);
   }
 };
 

@@ -38,7 +38,7 @@ TEST(CatalogueInput, OddTextsAreReadWithoutAReport) {
     f.catalogue.FromString(f.s, row.text);
     EXPECT_EQ(f.catalogue.ToString(f.s), row.written);
     EXPECT_EQ(f.catalogue.GetProjectsList(f.s)->dicList.Count(), row.projectNames);
-    EXPECT_TRUE(f.ui.reports.empty());
+    EXPECT_TRUE(f.Reports().empty());
     EXPECT_FALSE(f.s.err.pending());
   }
 }
@@ -66,7 +66,7 @@ TEST(CatalogueInput, AMillionLinesAreRead) {
   f.catalogue.FromString(f.s, text);
   EXPECT_EQ(f.catalogue.dicList.Count(), 1000u);
   EXPECT_EQ(f.Project("P999").Project->intColorCode, 999 % 7);
-  EXPECT_TRUE(f.ui.reports.empty());
+  EXPECT_TRUE(f.Reports().empty());
   EXPECT_EQ(f.catalogue.GetProjectsList(f.s)->dicList.Count(), 1000u);
 }
 

@@ -43,7 +43,7 @@ TEST(CatalogueSettings, ReadSettingsFillsTheCatalogueAndSaveSettingsWritesItBack
       "Zeta,2,,:Plan,;Build,2024-5-1\r\nalpha,0,2024-1-1,:New_SCOLON_ step,\r\n,4,,:";
   EXPECT_EQ(f.settings.ProjectsTasksList, expected);
   EXPECT_EQ(f.registry.ReadString(kQvxKey, "MyProjectsTasks"), expected);
-  EXPECT_TRUE(f.ui.reports.empty());
+  EXPECT_TRUE(f.Reports().empty());
 }
 
 // Read again, a bad catalogue replaces the old one with what it holds up to
@@ -62,9 +62,8 @@ TEST(CatalogueSettings, ABadCatalogueIsReportedAndTheReadGoesOn) {
   EXPECT_EQ(Names(*before), (Strings{"Zeta", "alpha"}));  // a holder keeps its old list
   EXPECT_EQ(f.settings.CustomFieldsTitle, "Extras");
   EXPECT_EQ(f.settings.CustomList1Active, 1);
-  ASSERT_EQ(f.ui.reports.size(), 1u);
-  EXPECT_EQ(testing::ReportLine(f.ui.reports[0], 1),
-            "In Function: cTasksPerProjectList.FromString");
+  ASSERT_EQ(f.Reports().size(), 1u);
+  EXPECT_TRUE(testing::ReportIsTrap(f.Reports()[0], "cTasksPerProjectList.FromString"));
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "catalogue_fixture.h"
 #include "schema/value_codecs.h"
+#include "unit/support/failure_report.h"
 
 namespace qvx {
 namespace {
@@ -32,7 +33,7 @@ TEST(CatalogueText, WorkedExampleReadsAsTheTreeAndWritesBackUnchanged) {
   f.catalogue.FromString(f.s, "");
   EXPECT_EQ(f.catalogue.dicList.Count(), 0u);
   EXPECT_EQ(f.catalogue.ToString(f.s), "");
-  EXPECT_TRUE(f.ui.reports.empty());
+  EXPECT_TRUE(f.Reports().empty());
 }
 
 // Names with separators, the tokens' letters, blanks inside, non-ASCII
@@ -92,7 +93,7 @@ TEST(CatalogueText, RandomCataloguesRoundTrip) {
     read.FromString(f.s, text);
     EXPECT_EQ(read.ToString(f.s), text);
     EXPECT_EQ(Tree(read), Tree(f.catalogue));
-    EXPECT_TRUE(f.ui.reports.empty());
+    EXPECT_TRUE(f.Reports().empty());
   }
 }
 
@@ -112,7 +113,7 @@ TEST(CatalogueText, MissingColourAndDatesCarryOverWithinOneRead) {
   EXPECT_EQ(f.Project("First").Project->StartDate, kEmptyDate);
   EXPECT_EQ(f.Project("D").Project->StartDate, kEmptyDate);  // "2011-3": the empty date
   EXPECT_EQ(f.Project("D").Project->FinishDate, kEmptyDate);
-  EXPECT_TRUE(f.ui.reports.empty());
+  EXPECT_TRUE(f.Reports().empty());
   f.catalogue.FromString(f.s, "B:");  // the next read starts afresh
   EXPECT_EQ(f.catalogue.ToString(f.s), "B,0,,:");
 }
@@ -135,24 +136,23 @@ TEST(CatalogueText, DatesRollOverAndAreEmptyWhenShortOrOutOfRange) {
   // The host's none date is written as nothing.
   EXPECT_EQ(f.catalogue.ToString(f.s),
             "P,0,2012-1-1,:A,2011-3-2;B,;C,\r\nQ,0,,2011-1-1:x,\r\nR,0,,:");
-  EXPECT_TRUE(f.ui.reports.empty());
+  EXPECT_TRUE(f.Reports().empty());
 }
 
 struct FailedRead {
   const char* what;
   const char* text;
   Strings kept;
-  const char* atLine;
 };
 
 TEST(CatalogueText, FailedReadKeepsWhatWasReadAndReportsOnce) {
   const FailedRead rows[] = {
-      {"empty line inside", "A,1,,:\r\n\r\nB,2,,:", {"A"}, "At Line: 20"},
-      {"line break after the last line", "A,1,,:\r\nB,2,,:\r\n", {"A", "B"}, "At Line: 20"},
-      {"line without a colon", "A,1,,:\r\nB,2,,\r\nC,3,,:", {"A"}, "At Line: 50"},
-      {"name only", "Lonely", {}, "At Line: 50"},
-      {"empty record", ":Design,", {}, "At Line: 30"},
-      {"just a line break", "\r\n", {}, "At Line: 20"},
+      {"empty line inside", "A,1,,:\r\n\r\nB,2,,:", {"A"}},
+      {"line break after the last line", "A,1,,:\r\nB,2,,:\r\n", {"A", "B"}},
+      {"line without a colon", "A,1,,:\r\nB,2,,\r\nC,3,,:", {"A"}},
+      {"name only", "Lonely", {}},
+      {"empty record", ":Design,", {}},
+      {"just a line break", "\r\n", {}},
   };
   for (const FailedRead& row : rows) {
     SCOPED_TRACE(row.what);
@@ -160,10 +160,9 @@ TEST(CatalogueText, FailedReadKeepsWhatWasReadAndReportsOnce) {
     f.catalogue.FromString(f.s, "Old,1,,:");
     f.catalogue.FromString(f.s, row.text);
     EXPECT_EQ(f.Projects(), row.kept);
-    ASSERT_EQ(f.ui.reports.size(), 1u);
-    EXPECT_EQ(f.ReportedLabel(), "In Function: cTasksPerProjectList.FromString");
-    EXPECT_EQ(testing::ReportLine(f.ui.reports.front(), 0), row.atLine);
-    EXPECT_EQ(testing::ReportLine(f.ui.reports.front(), 3), "Exception Number: 9");
+    ASSERT_EQ(f.Reports().size(), 1u);
+    EXPECT_TRUE(testing::ReportIsTrap(f.Reports().front(), "cTasksPerProjectList.FromString"));
+    EXPECT_EQ(testing::ReportLine(f.Reports().front(), 3), "Exception Number: 9");
   }
 }
 

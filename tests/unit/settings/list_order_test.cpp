@@ -105,7 +105,7 @@ TEST(ListOrder, FromStringAndGetItemIndexMatchTheOldWay) {
       const auto walk = std::find(items.begin(), items.end(), probe) - items.begin();
       ASSERT_EQ(list.getItemIndex(f.s, probe), walk) << "seed " << seed << " " << probe;
     }
-    EXPECT_TRUE(f.ui.reports.empty());
+    EXPECT_TRUE(f.Reports().empty());
   }
 }
 

@@ -75,7 +75,7 @@ TEST(ToolbarPosition, NonNumericLeftLeavesItAndTheRestApply) {
   EXPECT_EQ(bar->Value("Position").ToLong(), 2);
   EXPECT_EQ(bar->Value("RowIndex").ToLong(), 6);
   EXPECT_FALSE(f.s.err.pending());
-  EXPECT_TRUE(f.ui.reports.empty());
+  EXPECT_TRUE(f.Reports().empty());
 }
 
 TEST(ToolbarPosition, OtherSelectorsOrNoBarDoNothing) {
@@ -89,7 +89,7 @@ TEST(ToolbarPosition, OtherSelectorsOrNoBarDoNothing) {
     modLocalSettings::LoadToolbarPosition(f.s, selector, target);
     EXPECT_EQ(bar->Value("Top").ToLong(), 1);
     EXPECT_FALSE(f.s.err.pending());
-    EXPECT_TRUE(f.ui.reports.empty());
+    EXPECT_TRUE(f.Reports().empty());
   }
 }
 

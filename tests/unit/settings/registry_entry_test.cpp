@@ -77,7 +77,7 @@ TEST(RegistryEntry, KeyLayoutAndTextRoundTrip) {
   EXPECT_EQ(GetRegistrySetting(f.s, "QVX", "", "CustomField1List", ""), text);
   EXPECT_EQ(GetRegistrySetting(f.s, "QVX", "Sub", "Name", ""), "in section");
   EXPECT_EQ(GetRegistrySetting(f.s, "QVX", "", "Blank", "not this"), "");
-  EXPECT_TRUE(f.ui.reports.empty());
+  EXPECT_TRUE(f.Reports().empty());
 }
 
 TEST(RegistryEntry, AbsentKeyOrValueGivesTheDefault) {
@@ -101,7 +101,7 @@ TEST(RegistryEntry, NonStringValueRaisesWithItsType) {
   ASSERT_TRUE(f.registry.SetBinary(kQvxKey, "Blob", std::string("\x01\x02", 2)));
   EXPECT_EQ(Raised([&] { GetRegistrySetting(f.s, "QVX", "", "Blob", ""); }).number(),
             static_cast<int32_t>(0x800407D3));
-  EXPECT_TRUE(f.ui.reports.empty());        // raised to the caller, never reported here
+  EXPECT_TRUE(f.Reports().empty());         // raised to the caller, never reported here
   EXPECT_EQ(f.registry.OpenHandles(), 0u);  // the key was closed on the way out
 }
 

@@ -25,7 +25,7 @@ TEST(TasksPerProject, FromStringSkipsEmptyPartsAndKeepsTheFirstOfAName) {
   EXPECT_EQ((*p.dicList.Find("zeta"))->DueDate, DateSerial(2011, 4, 15));
   EXPECT_EQ((*p.dicList.Find("alpha"))->DueDate, kEmptyDate);
   EXPECT_EQ((*p.dicList.Find("Beta"))->DueDate, kEmptyDate);
-  EXPECT_TRUE(f.ui.reports.empty());
+  EXPECT_TRUE(f.Reports().empty());
   EXPECT_FALSE(f.s.err.pending());
   p.FromString(f.s, "", ";");
   EXPECT_EQ(p.dicList.Count(), 0u);
@@ -44,7 +44,7 @@ TEST(TasksPerProject, GetItemIndexIsExactAndGetItemTrims) {
   EXPECT_EQ(p.GetItem(f.s, 0), "Design");
   EXPECT_EQ(p.GetItem(f.s, 3), "");
   EXPECT_EQ(p.GetItem(f.s, -1), "");
-  EXPECT_TRUE(f.ui.reports.empty());
+  EXPECT_TRUE(f.Reports().empty());
 }
 
 TEST(TasksPerProject, ToStringTrimsTheWholeAndSortsOnlyWhenAsked) {
@@ -96,8 +96,8 @@ TEST(TasksPerProject, FailuresAreReportedUnderTheirLabels) {
     cTasksPerProject p;
     p.dicList.Add("gone", nullptr);  // an entry whose object is gone
     row.call(f.s, p);
-    ASSERT_EQ(f.ui.reports.size(), 1u);
-    EXPECT_EQ(f.ReportedLabel(), std::string("In Function: ") + row.label);
+    ASSERT_EQ(f.Reports().size(), 1u);
+    EXPECT_TRUE(f.ReportedOnce(row.label));
   }
 }
 
@@ -108,9 +108,9 @@ TEST(TasksPerProject, IndexBeyondASixteenBitIntegerIsReported) {
   for (int i = 0; i < 33000; ++i) text += "a" + std::to_string(i) + ",;";
   p.FromString(f.s, text, ";");
   EXPECT_EQ(p.getItemIndex(f.s, "a32767"), 32767);
-  EXPECT_TRUE(f.ui.reports.empty());
+  EXPECT_TRUE(f.Reports().empty());
   EXPECT_EQ(p.getItemIndex(f.s, "a32768"), 0);
-  EXPECT_EQ(f.ReportedLabel(), "In Function: TasksPerProject.getItemIndex");
+  EXPECT_TRUE(f.ReportedOnce("TasksPerProject.getItemIndex"));
 }
 
 }  // namespace

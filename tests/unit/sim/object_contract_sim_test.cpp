@@ -1,104 +1,16 @@
-// The contract of Object over the simulator's own objects: binding by name,
-// runtime error numbers, identity, enumeration, events.
-#include <vector>
+// The Object contract on the simulator's own face: the subject as the
+// add-in's logic sees a simulated object natively.
+#include "unit/sim/object_contract.h"
 
-#include "sim/contract_subject.h"
-#include "sim/errors.h"
-#include "unit/sim/sim_test_util.h"
-
-namespace qvx::sim {
+namespace qvx::contract {
 namespace {
 
-using testing::FailureOf;
+const ContractFace kSimulatorFace{
+    "Simulator",
+    [](const std::shared_ptr<sim::FakeObject>& subject) { return subject->AsObject(); }, true};
 
-class ObjectContract : public ::testing::Test {
- protected:
-  std::shared_ptr<FakeObject> host_ = MakeContractSubject();
-  Object subject_ = host_->AsObject();
-};
-
-TEST_F(ObjectContract, BindsByNameWithoutRegardToCaseAndConvertsArguments) {
-  subject_.Put("NAME", Variant("renamed"));
-  EXPECT_EQ(subject_.Get("name").ToText(), "renamed");
-  EXPECT_EQ(subject_.Get("SUM", {Variant("40"), Variant(2.0)}), Variant(int32_t{42}));
-}
-
-TEST_F(ObjectContract, BindingFailuresCarryTheRuntimeNumbers) {
-  const struct {
-    const char* member;
-    std::vector<Variant> args;
-    int32_t number;
-  } rows[] = {
-      {"NoSuchMember", {}, err::kNoSuchMember},
-      {"Sum", {Variant(int32_t{1})}, 449},
-      {"Sum", {Variant(int32_t{1}), Variant(int32_t{2}), Variant(int32_t{3})}, 450},
-      {"Sum", {Variant("x"), Variant(int32_t{1})}, err::kTypeMismatch},
-      {"Sum", {Variant::Null(), Variant(int32_t{1})}, err::kInvalidUseOfNull},
-  };
-  for (const auto& row : rows) {
-    EXPECT_EQ(FailureOf([&] { subject_.Call(row.member, row.args); }).number(), row.number)
-        << row.member << " with " << row.args.size();
-  }
-  EXPECT_EQ(FailureOf([&] { subject_.Put("Count", Variant(int32_t{4})); }).number(),
-            err::kNoSuchMember);  // read-only
-  EXPECT_EQ(FailureOf([&] { subject_.Get("NoSuchMember"); }).description(),
-            "Object doesn't support this property or method");
-}
-
-TEST_F(ObjectContract, NothingFailsWith91WhenUsedAndIdentityHoldsAcrossHandles) {
-  const Object nobody = subject_.Get("Nobody").ToObject();
-  EXPECT_TRUE(nobody.IsNothing());
-  EXPECT_EQ(FailureOf([&] { nobody.Get("Name"); }).number(), err::kObjectNotSet);
-  EXPECT_EQ(FailureOf([&] { nobody.Enumerate(); }).number(), err::kObjectNotSet);
-  const Object a = subject_.Get("Child").ToObject();
-  EXPECT_TRUE(a.Is(subject_.Get("child").ToObject()));
-  EXPECT_FALSE(a.Is(subject_));
-  EXPECT_FALSE(a.Is(Object()));
-  EXPECT_TRUE(Object().Is(Object()));
-}
-
-TEST_F(ObjectContract, EnumeratesInOrderAndEnumerationCanBeMadeToFail) {
-  std::vector<std::string> texts;
-  for (const Variant& v : subject_.Enumerate()) texts.push_back(v.ToText());
-  EXPECT_EQ(texts, (std::vector<std::string>{"one", "two", "three"}));
-  EXPECT_EQ(FailureOf([&] { subject_.Get("Child").ToObject().Enumerate(); }).number(),
-            err::kNoSuchMember);
-  host_->FailMember("_NewEnum", 13, "Type mismatch", 1);
-  EXPECT_EQ(FailureOf([&] { subject_.Enumerate(); }).number(), 13);
-  EXPECT_EQ(subject_.Enumerate().size(), 3u);
-}
-
-TEST_F(ObjectContract, EventsReachSubscribersUntilTheLastHandleIsReleased) {
-  std::vector<std::string> heard;
-  Subscription first =
-      subject_.Subscribe("pinged", [&](EventArgs& a) { heard.push_back("1:" + a.at(0).ToText()); });
-  Subscription second =
-      subject_.Subscribe("Pinged", [&](EventArgs& a) { heard.push_back("2:" + a.at(0).ToText()); });
-  subject_.Call("Ping", {Variant("a")});
-  second.Reset();
-  {
-    Subscription copy = first;
-    first.Reset();
-    subject_.Call("Ping", {Variant("c")});  // the copy still holds it
-  }
-  subject_.Call("Ping", {Variant("d")});
-  EXPECT_EQ(heard, (std::vector<std::string>{"1:a", "2:a", "1:c"}));
-  Subscription flip = subject_.Subscribe("Flipping", [](EventArgs& a) { a.at(0) = Variant(true); });
-  EXPECT_TRUE(subject_.Call("Flip", {Variant(false)}).ToBoolean());  // written back by reference
-}
-
-TEST_F(ObjectContract, InjectedFailuresCarryNumberAndDescriptionAndMayRunOut) {
-  host_->FailMember("Name", hresult::kFail, "boom", -1);
-  host_->FailMember("Sum", 5, "Invalid procedure call or argument", 2);
-  const Failure f = FailureOf([&] { subject_.Get("name"); });
-  EXPECT_EQ(f.number(), hresult::kFail);
-  EXPECT_EQ(f.description(), "boom");
-  EXPECT_EQ(FailureOf([&] { subject_.Put("Name", Variant("x")); }).description(), "boom");
-  const std::vector<Variant> args{Variant(int32_t{1}), Variant(int32_t{2})};
-  EXPECT_EQ(FailureOf([&] { subject_.Call("Sum", args); }).number(), 5);
-  EXPECT_EQ(FailureOf([&] { subject_.Call("Sum", args); }).number(), 5);
-  EXPECT_EQ(subject_.Call("Sum", args), Variant(int32_t{3}));
-}
+INSTANTIATE_TEST_SUITE_P(Simulator, ObjectContract, ::testing::Values(&kSimulatorFace),
+                         ContractFaceName);
 
 }  // namespace
-}  // namespace qvx::sim
+}  // namespace qvx::contract

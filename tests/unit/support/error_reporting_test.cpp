@@ -8,6 +8,10 @@
 #include <sstream>
 
 #include "core/dates.h"
+#include "sim/errors.h"
+#include "sim/inspector.h"
+#include "sim/item.h"
+#include "sim/name_space.h"
 #include "support/app_texts.h"
 #include "support/endpoints.h"
 #include "support/error_report_form.h"
@@ -115,25 +119,26 @@ TEST_F(ErrorReporting, AnEditedReportIsWhatIsMailedAndCancelSendsNothing) {
   ConnectHost();
   ui.QueueForm(FormScript().SetText("txtReport", "edited by the user").Click("cmdOpenEmail"));
   FailIn("Main.ReportToDB", 120, 91, "x");
-  ASSERT_EQ(outlook.createdItems.size(), 1u);
-  const FakeItem& mail = *outlook.createdItems[0];
-  EXPECT_EQ(mail.body, "edited by the user");
-  EXPECT_EQ(mail.to, kErrorReportMailAddress);
-  EXPECT_EQ(mail.subject, "Exception (" + GetVersionText() + ") : Quorvix Client Addin");
-  EXPECT_EQ(mail.saves, 1);
-  EXPECT_EQ(mail.displays, 1);
+  // The mail is saved into the drafts and shown in an inspector.
+  ASSERT_EQ(host.Inspectors().size(), 1u);
+  const sim::SimItem& mail = *host.Inspectors()[0]->item();
+  EXPECT_EQ(mail.Field("Body").ToText(), "edited by the user");
+  EXPECT_EQ(mail.Field("To").ToText(), kErrorReportMailAddress);
+  EXPECT_EQ(mail.Subject(), "Exception (" + GetVersionText() + ") : Quorvix Client Addin");
+  EXPECT_EQ(mail.saveCount(), 1);
+  EXPECT_EQ(mail.Folder(), host.DefaultFolder(host::olFolderDrafts));
   EXPECT_FALSE(ui.Forms()[0].closedByCloseBox);
   EXPECT_TRUE(ui.MessageBoxes().empty());
 
   frmErrorReport form(s);
   form.OnEvent("cmdCancel", "Click");
   EXPECT_TRUE(form.Unloaded());
-  EXPECT_EQ(outlook.createdItems.size(), 1u);
+  EXPECT_EQ(host.Inspectors().size(), 1u);
 }
 
 TEST_F(ErrorReporting, MailingFailuresAreToldOnlyWhenSendingDirectly) {
   ConnectHost();
-  outlook.failCreateItem = true;
+  host.FailAt("CreateItem", sim::hresult::kFail, "Cannot create.");
   SendErrorReport(s, "report", false);
   EXPECT_TRUE(ui.MessageBoxes().empty());
   SendErrorReport(s, "report", true);

@@ -136,12 +136,16 @@ TEST_F(SupportTest, AMissingFileSystemLibraryIsRepairedOnceOrTheHostMakesIt) {
   EXPECT_FALSE(s.err.pending());
   EXPECT_TRUE(ui.MessageBoxes().empty());
   EXPECT_TRUE(ui.Forms().empty());
-  outlook.hostCreates = platform::MakeFileSystemObject(system);
+  const Object fromHost = platform::MakeFileSystemObject(system);
+  std::vector<std::string> asked;
+  host.SetCreateObject([&](std::string_view progId) {
+    asked.emplace_back(progId);
+    return fromHost;
+  });
   ConnectHost();
   FileModule::Initialize(s);
-  EXPECT_TRUE(s.support.objFSO.Is(outlook.hostCreates));
-  EXPECT_EQ(outlook.hostCreateObjectRequests,
-            std::vector<std::string>{"Scripting.FileSystemObject"});
+  EXPECT_TRUE(s.support.objFSO.Is(fromHost));
+  EXPECT_EQ(asked, std::vector<std::string>{"Scripting.FileSystemObject"});
 }
 
 TEST_F(SupportTest, AMissingDictionaryLibraryIsRepairedOnceAndGivesNothing) {

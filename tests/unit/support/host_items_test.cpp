@@ -1,7 +1,15 @@
 #include "support/host_items.h"
 
 #include "core/dates.h"
+#include "core/host_constants.h"
+#include "sim/appointment.h"
+#include "sim/explorer.h"
+#include "sim/inspector.h"
+#include "sim/mail_item.h"
+#include "sim/task_item.h"
+#include "sim/user_properties.h"
 #include "support_fixture.h"
+#include "unit/support/failure_report.h"
 
 namespace qvx::testing {
 namespace {
@@ -43,9 +51,12 @@ TEST_F(HostItems, GetUserDefinedFieldValueByTypeSelector) {
       {Boolean, Variant(int32_t{0}), Variant(int32_t{-1}), Variant(false)},
   };
   for (size_t i = 0; i < std::size(rows); ++i) {
-    FakeItem item;
-    if (!rows[i].value.IsEmpty()) item.userProperties.emplace_back("ProjectValue", rows[i].value);
-    const Variant got = GetUserDefinedFieldValue(s, item.AsObject(), "projectvalue", rows[i].type,
+    auto item = host.AddAppointment("A", DateSerial(2026, 1, 2), DateSerial(2026, 1, 2));
+    if (!rows[i].value.IsEmpty()) {
+      // A combination field: the host doesn't convert it, so it holds any value given.
+      item->UserProperties().Set("ProjectValue", host::olCombination, rows[i].value);
+    }
+    const Variant got = GetUserDefinedFieldValue(s, item->AsObject(), "projectvalue", rows[i].type,
                                                  rows[i].defaultValue);
     EXPECT_EQ(got, rows[i].expected) << "row " << i << ": got " << got.ToText();
   }
@@ -53,12 +64,12 @@ TEST_F(HostItems, GetUserDefinedFieldValueByTypeSelector) {
 }
 
 TEST_F(HostItems, AGoneItemReadsAsOneWithoutTheProperty) {
-  FakeItem item;
-  item.userProperties.emplace_back("ProjectValue", Variant("P1"));
-  item.gone = true;
-  EXPECT_EQ(
-      GetUserDefinedFieldValue(s, item.AsObject(), "ProjectValue", VarType::String, Variant("x")),
-      Variant("x"));
+  auto item = host.AddAppointment("A", DateSerial(2026, 1, 2), DateSerial(2026, 1, 2));
+  item->UserProperties().Set("ProjectValue", host::olText, Variant("P1"));
+  const Object held = item->AsObject();
+  item->Delete();
+  EXPECT_EQ(GetUserDefinedFieldValue(s, held, "ProjectValue", VarType::String, Variant("x")),
+            Variant("x"));
   EXPECT_EQ(GetUserDefinedFieldValue(s, Object(), "ProjectValue", VarType::Integer, Variant("3")),
             Variant(int16_t{3}));
   EXPECT_TRUE(ui.Forms().empty());
@@ -66,12 +77,11 @@ TEST_F(HostItems, AGoneItemReadsAsOneWithoutTheProperty) {
 
 TEST_F(HostItems, AnUnconvertibleValueIsReportedAndGivesEmpty) {
   ConnectHost();
-  FakeItem item;
-  item.userProperties.emplace_back("Flag", Variant("maybe"));
-  EXPECT_TRUE(GetUserDefinedFieldValue(s, item.AsObject(), "Flag", VarType::Boolean).IsEmpty());
+  auto item = host.AddAppointment("A", DateSerial(2026, 1, 2), DateSerial(2026, 1, 2));
+  item->UserProperties().Set("Flag", host::olText, Variant("maybe"));
+  EXPECT_TRUE(GetUserDefinedFieldValue(s, item->AsObject(), "Flag", VarType::Boolean).IsEmpty());
   ASSERT_EQ(ui.Forms().size(), 1u);
-  EXPECT_NE(ui.Forms()[0].controls[1].text.find("In Function: GetUserDefinedFieldValue\r\n"),
-            std::string::npos);
+  EXPECT_TRUE(ReportIsTrap(ui.Forms()[0].controls[1].text, "GetUserDefinedFieldValue"));
 }
 
 TEST_F(HostItems, UserNameFromMailboxElseTheSystemsUser) {
@@ -82,7 +92,7 @@ TEST_F(HostItems, UserNameFromMailboxElseTheSystemsUser) {
   };
   ConnectHost();
   for (const auto& [mailbox, user] : rows) {
-    outlook.mailboxName = mailbox;
+    host.SetMailboxName(mailbox);
     EXPECT_EQ(GetUserNameFromMailbox(s), user) << mailbox;
     EXPECT_EQ(GetCurrentUserName(s), *user != 0 ? user : "winuser") << mailbox;
   }
@@ -90,22 +100,23 @@ TEST_F(HostItems, UserNameFromMailboxElseTheSystemsUser) {
 }
 
 TEST_F(HostItems, OccurrencesAreRecurringAppointmentsButNotTheMaster) {
-  struct Row {
-    const char* type;
-    bool recurring;
-    int32_t state;
-    bool occurrence;
+  const DateValue start{DateSerial(2026, 3, 2).serial + 9.0 / 24};
+  const DateValue end{start.serial + 1.0 / 24};
+  auto series = host.AddRecurringAppointment("Series", start, end);
+  auto occurrence = host.Occurrence(*series, start);
+  auto exception = host.Occurrence(*series, DateValue{start.serial + 7});
+  exception->SetField("RecurrenceState", int32_t{3});  // an occurrence moved or changed
+  auto task = host.AddTask("Task");
+  task->SetField("IsRecurring", true);
+  task->SetField("RecurrenceState", int32_t{2});
+  const std::pair<std::shared_ptr<sim::SimItem>, bool> rows[] = {
+      {series, false},   {occurrence, true},
+      {exception, true}, {host.AddAppointment("Single", start, end), false},
+      {task, false},     {host.AddMail("Mail"), false},
   };
-  const Row rows[] = {{"AppointmentItem", true, 1, false}, {"AppointmentItem", true, 2, true},
-                      {"AppointmentItem", true, 3, true},  {"AppointmentItem", false, 0, false},
-                      {"TaskItem", true, 2, false},        {"MailItem", false, 0, false}};
-  for (const Row& row : rows) {
-    FakeItem item;
-    item.typeName = row.type;
-    item.isRecurring = row.recurring;
-    item.recurrenceState = row.state;
-    EXPECT_EQ(IsRecurrenceAppointmentOccurence(s, item.AsObject()), row.occurrence)
-        << row.type << " " << row.state;
+  for (const auto& [item, isOccurrence] : rows) {
+    EXPECT_EQ(IsRecurrenceAppointmentOccurence(s, item->AsObject()), isOccurrence)
+        << item->Subject() << " " << item->Field("RecurrenceState").ToText();
   }
   EXPECT_FALSE(IsRecurrenceAppointmentOccurence(s, Object()));
 }
@@ -113,12 +124,16 @@ TEST_F(HostItems, OccurrencesAreRecurringAppointmentsButNotTheMaster) {
 TEST_F(HostItems, ActiveWindowOfInspector) {
   EXPECT_FALSE(IsActiveWindowOfInspector(s));  // no host at all
   ConnectHost();
-  outlook.activeWindowType = "Inspector";
+  const auto explorer = host.ActiveExplorer();
+  const auto inspector =
+      host.OpenInspector(host.AddAppointment("A", DateSerial(2026, 1, 2), DateSerial(2026, 1, 2)));
   EXPECT_TRUE(IsActiveWindowOfInspector(s));
-  outlook.activeWindowType = "Explorer";
+  host.Activate(*explorer);
   EXPECT_FALSE(IsActiveWindowOfInspector(s));
-  outlook.activeWindowType = "";
-  EXPECT_FALSE(IsActiveWindowOfInspector(s));
+  host.SetQuitOnLastWindowClose(false);
+  host.Close(*inspector);
+  host.Close(*explorer);
+  EXPECT_FALSE(IsActiveWindowOfInspector(s));  // no window at all
   EXPECT_TRUE(ui.Forms().empty());
 }
 

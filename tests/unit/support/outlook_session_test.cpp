@@ -1,5 +1,8 @@
 #include "support/outlook_session.h"
 
+#include "sim/errors.h"
+#include "sim/explorer.h"
+#include "sim/folder.h"
 #include "support_fixture.h"
 
 namespace qvx::testing {
@@ -12,11 +15,11 @@ using EnsureOutlookSessionTest = SupportTest;
 
 TEST_F(EnsureOutlookSessionTest, HeldHostShowsNoBoxAndActivatesTheFirstExplorer) {
   ConnectHost();
-  outlook.hasActiveExplorer = false;
+  host.FailAt("ActiveExplorer", sim::hresult::kFail, "The operation failed.");
   EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_TRUE(ui.MessageBoxes().empty());
-  EXPECT_EQ(outlook.activations, 1);
-  EXPECT_TRUE(outlook.explorersAddedFor.empty());
+  ASSERT_EQ(host.Explorers().size(), 1u);  // none added
+  EXPECT_EQ(host.Explorers()[0]->CallCount("Activate"), 1);
   EXPECT_FALSE(s.main.objNameSpace.IsNothing());
   EXPECT_TRUE(objects.GetRequests().empty());
 }
@@ -25,22 +28,22 @@ TEST_F(EnsureOutlookSessionTest, AnActiveExplorerIsLeftAloneAndTheSessionAskedOn
   ConnectHost();
   EnsureOutlookSession(s, host::olFolderInbox);
   EnsureOutlookSession(s, host::olFolderInbox);
-  EXPECT_EQ(outlook.activations, 0);
-  EXPECT_EQ(outlook.namespaceCalls, 1);
+  EXPECT_EQ(host.Explorers()[0]->CallCount("Activate"), 0);
+  EXPECT_EQ(host.app().CallCount("GetNamespace"), 1);
 }
 
 TEST_F(EnsureOutlookSessionTest, AttachesToARunningHost) {
   HostRunning();
   EnsureOutlookSession(s, host::olFolderInbox);
-  EXPECT_TRUE(s.main.objOutlook.Is(outlook.Application()));
+  EXPECT_TRUE(s.main.objOutlook.Is(host.Application()));
   EXPECT_TRUE(objects.CreateRequests().empty());
   EXPECT_TRUE(ui.MessageBoxes().empty());
 }
 
 TEST_F(EnsureOutlookSessionTest, CreatesByTheVersionedProgIdsInOrder) {
-  objects.RegisterCreator("Outlook.Application.12", [this] { return outlook.Application(); });
+  objects.RegisterCreator("Outlook.Application.12", [this] { return host.Application(); });
   EnsureOutlookSession(s, host::olFolderInbox);
-  EXPECT_TRUE(s.main.objOutlook.Is(outlook.Application()));
+  EXPECT_TRUE(s.main.objOutlook.Is(host.Application()));
   EXPECT_EQ(objects.CreateRequests(),
             (std::vector<std::string>{"Outlook.Application", "Outlook.Application.14",
                                       "Outlook.Application.12"}));
@@ -62,14 +65,14 @@ TEST_F(EnsureOutlookSessionTest, NoHostShowsBothBoxesAndTearsDown) {
 
 TEST_F(EnsureOutlookSessionTest, VersionBelowTenIsRefusedAndTenPasses) {
   HostRunning();
-  outlook.version = "9.0.0.2711";
+  host.SetVersion("9.0.0.2711");
   EnsureOutlookSession(s, host::olFolderInbox);
   ASSERT_EQ(ui.MessageBoxes().size(), 1u);
   EXPECT_EQ(ui.MessageBoxes()[0].text, kRequired + "\r\n9");
   EXPECT_EQ(ui.MessageBoxes()[0].style, msgbox::kCritical);
   EXPECT_TRUE(s.main.objOutlook.IsNothing());
   s.support.cachedVersion = 0;
-  outlook.version = "10.0";
+  host.SetVersion("10.0");
   EnsureOutlookSession(s, host::olFolderInbox);
   EXPECT_EQ(ui.MessageBoxes().size(), 1u);
   EXPECT_FALSE(s.main.objOutlook.IsNothing());
@@ -77,32 +80,42 @@ TEST_F(EnsureOutlookSessionTest, VersionBelowTenIsRefusedAndTenPasses) {
 
 TEST_F(SupportTest, GetVersionTakesTheMajorAndCachesIt) {
   ConnectHost();
-  outlook.version = "15";  // without a dot: the whole text
+  host.SetVersion("15");  // without a dot: the whole text
   EXPECT_EQ(GetVersion(s), 15);
-  outlook.version = "14.0.1";
+  host.SetVersion("14.0.1");
   EXPECT_EQ(GetVersion(s), 15);
   s.support.cachedVersion = 0;
   EXPECT_EQ(GetVersion(s), 14);
 }
 
-TEST_F(SupportTest, ShowDefaultFolderOpensAnExplorerOnlyWhenThereIsNoneAndTellsAFailure) {
+TEST_F(SupportTest, ShowDefaultFolderLeavesAnOpenExplorerAlone) {
   ConnectHost();
   ShowDefaultFolder(s, host::olFolderCalendar);
-  EXPECT_TRUE(outlook.explorersAddedFor.empty());
-  outlook.explorerCount = 0;
+  ASSERT_EQ(host.Explorers().size(), 1u);
+  EXPECT_EQ(host.Explorers()[0]->folder(), host.Inbox());
+  EXPECT_TRUE(ui.MessageBoxes().empty());
+}
+
+TEST_F(SupportTest, ShowDefaultFolderOpensAndShowsAnExplorerWhenThereIsNone) {
+  host.StartsWithoutExplorer();
+  ConnectHost();
   ShowDefaultFolder(s, host::olFolderCalendar);
-  EXPECT_EQ(outlook.explorersAddedFor, std::vector<int32_t>{host::olFolderCalendar});
-  EXPECT_EQ(outlook.explorerAddModes, std::vector<int32_t>{3});
-  EXPECT_EQ(outlook.displays, 1);
+  ASSERT_EQ(host.Explorers().size(), 1u);
+  EXPECT_EQ(host.Explorers()[0]->folder(), host.Calendar());
+  EXPECT_EQ(host.Explorers()[0]->CallCount("Display"), 1);
   EXPECT_FALSE(s.main.objNameSpace.IsNothing());
   EXPECT_TRUE(ui.MessageBoxes().empty());
+}
 
-  outlook.explorerCount = 0;
-  outlook.failGetDefaultFolder = true;
+TEST_F(SupportTest, ShowDefaultFolderTellsTheLastFailureInABox) {
+  host.StartsWithoutExplorer();
+  host.FailAt("Session.GetDefaultFolder", sim::hresult::kFail, "No access.");
+  ConnectHost();
   ShowDefaultFolder(s, host::olFolderCalendar);
+  EXPECT_TRUE(host.Explorers().empty());
   ASSERT_EQ(ui.MessageBoxes().size(), 1u);
   // Failures are ignored statement by statement, so the box tells the last
-  // one: the display of the explorer that could not be added.
+  // one: the display of the explorer that could not be added, at its line.
   EXPECT_EQ(ui.MessageBoxes()[0].text,
             "Can't access Outlook API!\r\nNot adequate permission over the folder/items!\r\n"
             "91\r\nObject variable or With block variable not set\r\n60");
@@ -110,8 +123,8 @@ TEST_F(SupportTest, ShowDefaultFolderOpensAnExplorerOnlyWhenThereIsNoneAndTellsA
 }
 
 TEST_F(SupportTest, CreateObjectSafelyTriesBothWays) {
-  const Object fromHost = platform::MakeDictionary();
-  outlook.hostCreates = fromHost;
+  Object fromHost = platform::MakeDictionary();
+  host.SetCreateObject([&fromHost](std::string_view) { return fromHost; });
   // No host: only the platform.
   EXPECT_EQ(CreateObjectSafely(s, "Scripting.Dictionary", false).TypeName(), "Dictionary");
   EXPECT_TRUE(CreateObjectSafely(s, "Scripting.Dictionary", true).IsNothing());
@@ -119,7 +132,7 @@ TEST_F(SupportTest, CreateObjectSafelyTriesBothWays) {
   EXPECT_TRUE(CreateObjectSafely(s, "Scripting.Dictionary", true).Is(fromHost));
   EXPECT_FALSE(CreateObjectSafely(s, "Scripting.Dictionary", false).Is(fromHost));
   EXPECT_TRUE(CreateObjectSafely(s, "No.Such", false).Is(fromHost));
-  outlook.hostCreates.Release();
+  fromHost.Release();
   EXPECT_EQ(CreateObjectSafely(s, "Wscript.Shell", true).TypeName(), "IWshShell3");
   EXPECT_TRUE(CreateObjectSafely(s, "No.Such", true).IsNothing());
   EXPECT_FALSE(s.err.pending());
