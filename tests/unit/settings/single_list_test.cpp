@@ -135,7 +135,7 @@ TEST(SingleList, PopulateComboListFillsAFormsComboBox) {
     EXPECT_EQ(shown.listIndex, row.listIndex) << row.value;
     EXPECT_EQ(clicks, row.listIndex >= 0 ? 1 : 0) << row.value;  // choosing a row clicks
     EXPECT_FALSE(f.s.err.pending());
-    EXPECT_TRUE(f.ui.reports.empty());
+    EXPECT_TRUE(f.ui.MessageBoxes().empty());
   }
 }
 
