@@ -8,10 +8,14 @@
 
 namespace qvx {
 
-cExplorersEventClient::cExplorersEventClient(AddinState& s) : s_(s) {
+cExplorersEventClient::cExplorersEventClient(AddinState& s) : oExplorers(*this, s), s_(s) {
+  oExplorers.On("NewExplorer", "Explorers.NewExplorer",
+                [](cExplorersEventClient& self, Line& line, EventArgs& args) {
+                  self.oExplorers_NewExplorer(line, args.empty() ? Object{} : args[0].ToObject());
+                });
   Quietly(s.err, [&] {
-    s.main.objInspectorsClient = std::make_unique<cInspectors>(s);
-    s.main.objInspectorsClient->SetInspectors(s.main.objOutlook.Get("Inspectors").ToObject());
+    s.main.objInspectorsClient = std::make_shared<cInspectors>(s);
+    s.main.objInspectorsClient->ouisInspectors.Set(s.main.objOutlook.Get("Inspectors").ToObject());
   });
   Quietly(s.err, [&] {
     s.main.colExplorerClients =
@@ -20,18 +24,10 @@ cExplorersEventClient::cExplorersEventClient(AddinState& s) : s_(s) {
 }
 
 cExplorersEventClient::~cExplorersEventClient() {
-  newExplorer_.Reset();
   oueCurrExplorer.Release();
   oExplorers.Release();
   if (s_.main.colExplorerClients) s_.main.colExplorerClients->Clear();
   s_.main.colExplorerClients.reset();
-}
-
-void cExplorersEventClient::SetExplorers(const Object& explorers) {
-  oExplorers = explorers;
-  newExplorer_ = explorers.Subscribe("NewExplorer", [this](EventArgs& args) {
-    oExplorers_NewExplorer(args.empty() ? Object{} : args[0].ToObject());
-  });
 }
 
 void cExplorersEventClient::LoadSupportCallsMenu(bool& blnAddButtons) noexcept {
@@ -94,14 +90,12 @@ void cExplorersEventClient::UpdateAllDisplayedToolbars() noexcept {
   });
 }
 
-void cExplorersEventClient::oExplorers_NewExplorer(const Object& explorer) noexcept {
-  Trapped(s_, "Explorers.NewExplorer", [&](Line& line) {
-    line = 10;
-    oueCurrExplorer = explorer;
-    line = 20;
-    bool addButtons = false;
-    LoadSupportCallsMenu(addButtons);
-  });
+void cExplorersEventClient::oExplorers_NewExplorer(Line& line, const Object& explorer) {
+  line = 10;
+  oueCurrExplorer = explorer;
+  line = 20;
+  bool addButtons = false;
+  LoadSupportCallsMenu(addButtons);
 }
 
 }  // namespace qvx

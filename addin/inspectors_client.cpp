@@ -4,23 +4,19 @@
 
 namespace qvx {
 
-cInspectors::~cInspectors() {
-  newInspector_.Reset();
-  ouisInspectors.Release();
-}
-
-void cInspectors::SetInspectors(const Object& inspectors) {
-  ouisInspectors = inspectors;
-  newInspector_ = inspectors.Subscribe("NewInspector", [this](EventArgs& args) {
-    ouisInspectors_NewInspector(args.empty() ? Object{} : args[0].ToObject());
-  });
+cInspectors::cInspectors(AddinState& s) : ouisInspectors(*this, s), s_(s) {
+  ouisInspectors.On("NewInspector", "Inspectors.NewInspector",
+                    [](cInspectors& self, Line& line, EventArgs& args) {
+                      self.ouisInspectors_NewInspector(
+                          line, args.empty() ? Object{} : args[0].ToObject());
+                    });
 }
 
 void cInspectors::UpdateToolbarsOf(const std::string&) noexcept {
   // No inspector bars exist yet: nothing to refresh.
 }
 
-void cInspectors::ouisInspectors_NewInspector(const Object&) noexcept {
+void cInspectors::ouisInspectors_NewInspector(Line&, const Object&) {
   // Inspector bars are built with the command-bar interface.
 }
 

@@ -40,7 +40,7 @@ void StartingPoint(AddinState& s, bool& blnRestart) {
     line = 40;
     InitMapiUtils(s);  // tells of a missing library itself; start-up goes on
     line = 50;
-    s.main.objExplorersClient = std::make_unique<cExplorersEventClient>(s);
+    s.main.objExplorersClient = std::make_shared<cExplorersEventClient>(s);
     line = 60;
     ShowDefaultFolder(
         s,
@@ -49,7 +49,7 @@ void StartingPoint(AddinState& s, bool& blnRestart) {
     subLoadViewNames(s);
     line = 80;
     const Object& outlook = s.main.objOutlook;
-    s.main.objExplorersClient->SetExplorers(outlook.Get("Explorers").ToObject());
+    s.main.objExplorersClient->oExplorers.Set(outlook.Get("Explorers").ToObject());
     line = 90;
     if (outlook && outlook.Get("Explorers").ToObject().Get("Count").ToLong() > 0) {
       s.main.objExplorersClient->oueCurrExplorer = outlook.Get("ActiveExplorer").ToObject();

@@ -115,6 +115,11 @@ HRESULT QVXClientDLL::Invoke(DISPID id, REFIID riid, LCID, WORD flags, DISPPARAM
       if (argError) *argError = params->cArgs - 1;
       return E_INVALIDARG;
     }
+    // Office passes every argument of a callback; none is optional.
+    if (const auto omitted = win32::FirstOmitted(*params)) {
+      if (argError) *argError = *omitted;
+      return DISP_E_PARAMNOTFOUND;
+    }
     KeepAlive alive(static_cast<IDTExtensibility2*>(this));
     const std::string name = *known;
     const UINT count = params->cArgs;

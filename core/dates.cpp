@@ -96,7 +96,7 @@ DateValue DatePart(DateValue date) {
   return DateValue{std::trunc(date.serial)};
 }
 
-std::string DateToText(DateValue date) {
+std::string EnUsDateToText(DateValue date) {
   const DateParts p = DecomposeDate(date);
   char buffer[64];
   const bool hasDate = std::trunc(date.serial) != 0.0;
@@ -181,7 +181,7 @@ bool ParseDay(std::string_view s, int& y, int& m, int& d) {
 
 }  // namespace
 
-bool TextToDate(std::string_view text, DateValue& out) {
+bool EnUsTextToDate(std::string_view text, DateValue& out) {
   std::string_view s = Trim(text);
   if (s.empty() || s.size() > 64) return false;
   std::string_view dayText = s, timeText;

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/locale_text.h"
 #include "core/variant.h"
 
 namespace qvx {
@@ -38,10 +39,11 @@ DateParts DecomposeDate(DateValue date);
 // The date without its time of day.
 DateValue DatePart(DateValue date);
 
-// The platform's default text form of a date, as CStr gives it in the en-US
-// locale: "1/2/2026", "1/2/2026 3:04:05 PM", or "3:04:05 PM" for a time alone.
-std::string DateToText(DateValue date);
+// The text form of a date as CStr gives it in the en-US locale: "1/2/2026",
+// "1/2/2026 3:04:05 PM", or "3:04:05 PM" for a time alone. The user's locale
+// decides the form the add-in uses: DateToText in core/locale_text.h.
+std::string EnUsDateToText(DateValue date);
 // Reads the forms above, ISO "2026-01-02[ 15:04[:05]]" and 24-hour times.
-bool TextToDate(std::string_view text, DateValue& out);
+bool EnUsTextToDate(std::string_view text, DateValue& out);
 
 }  // namespace qvx

@@ -24,6 +24,8 @@ inline constexpr int32_t kObjectNotSet = 91;
 inline constexpr int32_t kInvalidUseOfNull = 94;
 inline constexpr int32_t kObjectRequired = 424;
 inline constexpr int32_t kNoSuchMember = 438;
+inline constexpr int32_t kArgumentNotOptional = 449;
+inline constexpr int32_t kWrongArgumentCount = 450;
 inline constexpr int32_t kKeyAlreadyAssociated = 457;
 // The platform's object error base (vbObjectError).
 inline constexpr int32_t kObjectErrorBase = static_cast<int32_t>(0x80040000u);

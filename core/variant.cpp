@@ -8,6 +8,7 @@
 
 #include "core/dates.h"
 #include "core/failure.h"
+#include "core/locale_text.h"
 #include "core/text.h"
 
 namespace qvx {
@@ -21,36 +22,6 @@ namespace {
 }
 [[noreturn]] void NullUse() {
   throw Failure::Runtime(err::kInvalidUseOfNull);
-}
-
-std::string DoubleToText(double v) {
-  if (v == 0.0) return "0";
-  char buffer[64];
-  std::snprintf(buffer, sizeof buffer, "%.15G", v);
-  std::string text = buffer;
-  // "1E+015" -> "1E+15": the runtime writes the exponent without padding.
-  const size_t e = text.find('E');
-  if (e != std::string::npos) {
-    size_t digits = e + 2;
-    while (digits + 1 < text.size() && text[digits] == '0') text.erase(digits, 1);
-  }
-  return text;
-}
-
-std::string CurrencyToText(Currency c) {
-  const bool negative = c.scaled < 0;
-  const uint64_t magnitude =
-      negative ? 0 - static_cast<uint64_t>(c.scaled) : static_cast<uint64_t>(c.scaled);
-  std::string text = std::to_string(magnitude / 10000);
-  uint64_t fraction = magnitude % 10000;
-  if (fraction != 0) {
-    char buffer[8];
-    std::snprintf(buffer, sizeof buffer, "%04u", static_cast<unsigned>(fraction));
-    std::string decimals = buffer;
-    while (decimals.back() == '0') decimals.pop_back();
-    text += "." + decimals;
-  }
-  return negative ? "-" + text : text;
 }
 
 double NumericValue(const Variant& v);
@@ -85,7 +56,7 @@ double NumericValue(const Variant& v) {
       return *v.As<bool>() ? -1.0 : 0.0;
     case VarType::String: {
       double out = 0;
-      if (ParseNumber(*v.As<std::string>(), out)) return out;
+      if (TextToNumber(*v.As<std::string>(), out)) return out;
       Mismatch();
     }
     case VarType::Object:
@@ -96,6 +67,36 @@ double NumericValue(const Variant& v) {
 }
 
 }  // namespace
+
+std::string EnUsDoubleToText(double v) {
+  if (v == 0.0) return "0";
+  char buffer[64];
+  std::snprintf(buffer, sizeof buffer, "%.15G", v);
+  std::string text = buffer;
+  // "1E+015" -> "1E+15": the runtime writes the exponent without padding.
+  const size_t e = text.find('E');
+  if (e != std::string::npos) {
+    size_t digits = e + 2;
+    while (digits + 1 < text.size() && text[digits] == '0') text.erase(digits, 1);
+  }
+  return text;
+}
+
+std::string EnUsCurrencyToText(Currency c) {
+  const bool negative = c.scaled < 0;
+  const uint64_t magnitude =
+      negative ? 0 - static_cast<uint64_t>(c.scaled) : static_cast<uint64_t>(c.scaled);
+  std::string text = std::to_string(magnitude / 10000);
+  uint64_t fraction = magnitude % 10000;
+  if (fraction != 0) {
+    char buffer[8];
+    std::snprintf(buffer, sizeof buffer, "%04u", static_cast<unsigned>(fraction));
+    std::string decimals = buffer;
+    while (decimals.back() == '0') decimals.pop_back();
+    text += "." + decimals;
+  }
+  return negative ? "-" + text : text;
+}
 
 Currency Currency::FromDouble(double value) {
   const double scaled = BankersRound(value * 10000.0);
@@ -183,7 +184,7 @@ bool Variant::IsNumeric() const {
       return true;
     case VarType::String: {
       double ignored = 0;
-      return ParseNumber(*As<std::string>(), ignored);
+      return TextToNumber(*As<std::string>(), ignored);
     }
     default:
       return false;
@@ -245,7 +246,7 @@ DateValue Variant::ToDate() const {
       DateValue out;
       if (TextToDate(*As<std::string>(), out)) return out;
       double serial = 0;
-      if (ParseNumber(*As<std::string>(), serial)) break;
+      if (TextToNumber(*As<std::string>(), serial)) break;
       Mismatch();
     }
     case VarType::Null:

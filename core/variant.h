@@ -114,9 +114,14 @@ class Variant {
       value_;
 };
 
-// Reads text as a number the way the runtime's numeric conversion does:
-// surrounding blanks allowed, sign, decimals, exponent, "&H" hex. Nothing else.
+// Reads text as a number the way the runtime's numeric conversion does in the
+// en-US locale: surrounding blanks allowed, sign, decimals, exponent, "&H"
+// hex. Nothing else. The user's locale decides: TextToNumber in
+// core/locale_text.h.
 bool ParseNumber(std::string_view text, double& out);
+// CStr of a Double and a Currency in the en-US locale: "0.3", "1E+20", "-2.5".
+std::string EnUsDoubleToText(double value);
+std::string EnUsCurrencyToText(Currency value);
 
 // Rounds half to even, as the runtime's integer conversions do.
 double BankersRound(double value);

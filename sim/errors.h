@@ -21,9 +21,8 @@ inline constexpr int32_t kObjectDeleted =
     static_cast<int32_t>(0x8004010Au);  // MAPI_E_OBJECT_DELETED
 }  // namespace hresult
 
-// Runtime numbers of argument binding, which core/failure.h doesn't name.
-inline constexpr int32_t kArgumentNotOptional = 449;
-inline constexpr int32_t kWrongArgumentCount = 450;
+inline constexpr int32_t kArgumentNotOptional = err::kArgumentNotOptional;
+inline constexpr int32_t kWrongArgumentCount = err::kWrongArgumentCount;
 inline constexpr int32_t kCannotCreateObject = 429;
 
 // A failure raised by the host itself.

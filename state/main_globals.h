@@ -45,8 +45,10 @@ struct MainGlobals {
   std::string strToolName;
   std::shared_ptr<ListenerForm> fListenToLocal;
   std::shared_ptr<ListenerForm> fListenToAdmin;
-  Owner<cExplorersEventClient> objExplorersClient;
-  Owner<cInspectors> objInspectorsClient;
+  // Shared, so that their event handlers keep them alive (core/event_field.h);
+  // a shared_ptr needs no complete type here either.
+  std::shared_ptr<cExplorersEventClient> objExplorersClient;
+  std::shared_ptr<cInspectors> objInspectorsClient;
   std::unique_ptr<OrderedDictionary<std::shared_ptr<cExplorerClient>>> colExplorerClients;
   Object objNameSpace;
   Owner<cSingleList> colViewNames;

@@ -5,7 +5,8 @@
 set -euo pipefail
 packages=(g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev clang-format python3 libxml2-dev)
 if [[ "${1:-}" == "windows" ]]; then
-  packages+=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64 xvfb xauth googletest)
+  packages+=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64 xvfb xauth googletest
+             locales)
 fi
 missing=()
 for p in "${packages[@]}"; do
@@ -16,4 +17,13 @@ if ((${#missing[@]})); then
   [[ $(id -u) -ne 0 ]] && sudo="sudo"
   $sudo apt-get update -qq
   DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}"
+fi
+# The Wine tests run the add-in in a German and an English (UK) user locale,
+# which Wine takes from these Unix locales.
+if [[ "${1:-}" == "windows" ]]; then
+  sudo=""
+  [[ $(id -u) -ne 0 ]] && sudo="sudo"
+  for locale in de_DE en_GB; do
+    locale -a | grep -qix "${locale}.utf-\?8" || $sudo localedef -i "$locale" -f UTF-8 "${locale}.UTF-8"
+  done
 fi

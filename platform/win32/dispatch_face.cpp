@@ -469,6 +469,12 @@ HRESULT DispatchFace::Invoke(DISPID id, REFIID riid, LCID, WORD flags, DISPPARAM
     return S_OK;
   } catch (const Failure& f) {
     if (f.number() == err::kNoSuchMember) return DISP_E_MEMBERNOTFOUND;
+    if (f.number() == err::kArgumentNotOptional) {
+      // A required argument omitted, or left out of the list altogether.
+      const auto omitted = FirstOmitted(*params);
+      if (argError && omitted) *argError = *omitted;
+      return DISP_E_PARAMNOTFOUND;
+    }
     if (!excep) return f.number() < 0 ? static_cast<HRESULT>(f.number()) : E_FAIL;
     FillExcepInfo(f, excep);
     return DISP_E_EXCEPTION;

@@ -7,8 +7,9 @@
 // by calling the HostObject (arguments in signature order, a put's value
 // last). DISPID_NEWENUM enumerates. A Failure from the HostObject goes back as
 // DISP_E_EXCEPTION with EXCEPINFO (number, source, description); Failure 438
-// as DISP_E_MEMBERNOTFOUND. Events: IConnectionPointContainer offers the
-// dispinterface that Outlook gives objects of the host's TypeName()
+// as DISP_E_MEMBERNOTFOUND; Failure 449, a required argument omitted, as
+// DISP_E_PARAMNOTFOUND with the omitted one in argError. Events: IConnectionPointContainer offers
+// the dispinterface that Outlook gives objects of the host's TypeName()
 // ("Explorer" -> ExplorerEvents_10), and forwards each event the HostObject
 // raises to the advised sink's Invoke with the event's DISPID. Boolean event
 // arguments travel by reference, so that a sink can set Cancel.

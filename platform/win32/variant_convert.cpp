@@ -12,9 +12,6 @@
 namespace qvx::win32 {
 namespace {
 
-constexpr int32_t kArgumentNotOptional = 449;
-constexpr int32_t kWrongArgumentCount = 450;
-
 [[noreturn]] void TypeMismatch() {
   throw Failure::Runtime(err::kTypeMismatch);
 }
@@ -55,7 +52,21 @@ std::string SystemMessage(HRESULT hr) {
   return text.empty() ? std::string("Automation error") : Narrow(text);
 }
 
+bool IsOmitted(const VARIANT& v) noexcept {
+  const VARIANT* p = &v;
+  if (v.vt == (VT_BYREF | VT_VARIANT) && v.pvarVal) p = v.pvarVal;
+  return p->vt == VT_ERROR && p->scode == DISP_E_PARAMNOTFOUND;
+}
+
 }  // namespace
+
+std::optional<UINT> FirstOmitted(const DISPPARAMS& params) noexcept {
+  if (!params.rgvarg) return std::nullopt;
+  for (UINT i = params.cArgs; i-- > params.cNamedArgs;) {
+    if (IsOmitted(params.rgvarg[i])) return i;
+  }
+  return std::nullopt;
+}
 
 Variant FromVariant(const VARIANT& in) {
   const VARTYPE vt = in.vt;
@@ -244,10 +255,12 @@ Failure FailureFromHresult(HRESULT hr, EXCEPINFO* info) {
     case DISP_E_OVERFLOW:
       return Failure::Runtime(err::kOverflow);
     case DISP_E_BADPARAMCOUNT:
-      return Failure(kWrongArgumentCount, "QVXClient",
+      return Failure(err::kWrongArgumentCount, "QVXClient",
                      "Wrong number of arguments or invalid property assignment");
     case DISP_E_PARAMNOTOPTIONAL:
-      return Failure(kArgumentNotOptional, "QVXClient", "Argument not optional");
+    case DISP_E_PARAMNOTFOUND:
+      // No call here names its arguments: the host is missing one it requires.
+      return Failure(err::kArgumentNotOptional, "QVXClient", "Argument not optional");
     default:
       return Failure(static_cast<int32_t>(hr), "QVXClient", SystemMessage(hr));
   }

@@ -18,6 +18,7 @@
 #include "harness/check.h"
 #include "harness/companion_journal.h"
 #include "harness/ui_watcher.h"
+#include "harness/user_locale.h"
 
 int main(int argc, char** argv) {
   std::string filter;
@@ -48,6 +49,7 @@ int main(int argc, char** argv) {
   qvx::winetest::SetUpJournal();
   qvx::winetest::Watcher();  // from now on no modal window can block a test
   const int result = qvx::winetest::RunAll(filter);
+  qvx::winetest::SignalUserLocaleRun(result);
   OleUninitialize();
   return result;
 }

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <utility>
+
 #include "core/failure.h"
 
 namespace qvx {
@@ -54,6 +57,31 @@ TEST(VariantTests, NumericDateAndBoolean) {
   EXPECT_TRUE(Variant("true").ToBoolean());
   EXPECT_TRUE(Variant("-1").ToBoolean());
   EXPECT_EQ(FailureNumber([] { Variant("yes").ToBoolean(); }), err::kTypeMismatch);
+}
+
+// An omitted optional argument: told apart from Empty, and no value at all.
+TEST(VariantMissing, IsApartFromEmptyAndConvertsToNothing) {
+  const Variant missing = Variant::Missing();
+  EXPECT_TRUE(missing.IsMissing());
+  EXPECT_FALSE(missing.IsEmpty());
+  EXPECT_EQ(missing.Type(), VarType::Error);
+  EXPECT_FALSE(Variant().IsMissing());
+  EXPECT_EQ(missing, Variant::Missing());
+  EXPECT_FALSE(missing == Variant());
+  EXPECT_FALSE(missing == Variant::Null());
+  EXPECT_FALSE(missing == Variant(int32_t{0}));
+  EXPECT_FALSE(missing.IsNumeric());
+  EXPECT_FALSE(missing.IsDate());
+  const std::pair<const char*, std::function<void()>> conversions[] = {
+      {"CStr", [&] { missing.ToText(); }},     {"CInt", [&] { missing.ToInteger(); }},
+      {"CLng", [&] { missing.ToLong(); }},     {"CDbl", [&] { missing.ToDouble(); }},
+      {"CCur", [&] { missing.ToCurrency(); }}, {"CDate", [&] { missing.ToDate(); }},
+      {"CBool", [&] { missing.ToBoolean(); }},
+  };
+  for (const auto& [name, convert] : conversions) {
+    EXPECT_EQ(FailureNumber(convert), err::kTypeMismatch) << name;
+  }
+  EXPECT_EQ(FailureNumber([&] { missing.ToObject(); }), err::kObjectRequired);
 }
 
 }  // namespace

@@ -27,6 +27,7 @@ TEST_P(ObjectContract, BindingFailuresCarryTheRuntimeNumbers) {
   } rows[] = {
       {"NoSuchMember", {}, err::kNoSuchMember},
       {"Sum", {Variant(int32_t{1})}, 449},
+      {"Sum", {Variant::Missing(), Variant(int32_t{1})}, 449},  // a required one omitted
       {"Sum", {Variant(int32_t{1}), Variant(int32_t{2}), Variant(int32_t{3})}, 450},
       {"Sum", {Variant("x"), Variant(int32_t{1})}, err::kTypeMismatch},
       {"Sum", {Variant::Null(), Variant(int32_t{1})}, err::kInvalidUseOfNull},

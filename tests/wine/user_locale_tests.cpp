@@ -1,0 +1,127 @@
+// The user's locale decides the text of dates and numbers, as it did for the
+// legacy runtime: the companion writes LastReported in it, and parses the
+// start of a recurring occurrence in it. Each test runs in a second test host
+// under its locale (harness/user_locale.h), with the add-in's logic in that
+// process over the Windows platform and a simulated host.
+#include <windows.h>
+
+#include <cmath>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/dates.h"
+#include "core/failure.h"
+#include "harness/check.h"
+#include "harness/companion_journal.h"
+#include "harness/registry_keys.h"
+#include "harness/ui_watcher.h"
+#include "harness/user_locale.h"
+#include "platform/win32/win32_platform.h"
+#include "reporting/report_items.h"
+#include "settings/my_settings.h"
+#include "sim/appointment.h"
+#include "sim/outlook.h"
+#include "state/addin_state.h"
+
+namespace qvx::winetest {
+namespace {
+
+using Settings = std::vector<std::pair<std::wstring, std::wstring>>;
+
+struct LocaleCase {
+  const wchar_t* lastReported;  // as the companion writes 2 March 2026 09:05:07
+  const wchar_t* unreadable;    // a date this locale cannot read
+  std::string occurrence;       // 9 March 2026 14:30 as the companion must get it
+};
+
+// The add-in's logic in this process, its settings read from the registry.
+struct LogicInProcess {
+  win32::Win32Platform platform;
+  AddinState s{platform.Get()};
+  sim::Outlook world;
+
+  explicit LogicInProcess(const Settings& settings) {
+    WriteSettings(settings);
+    s.main.objOutlook = world.Application();
+    s.main.objMySettings = std::make_unique<cMySettings>();
+    s.main.objMySettings->ReadSettings(s);
+  }
+  ~LogicInProcess() { DeleteTree(kSettingsKey); }
+  cMySettings& settings() { return *s.main.objMySettings; }
+};
+
+// oleaut32 and the runtime's composition may differ in the last bits.
+bool SameSecond(DateValue a, DateValue b) {
+  return std::llround(a.serial * 86400.0) == std::llround(b.serial * 86400.0);
+}
+
+int32_t FailureNumber(void (*convert)()) {
+  try {
+    convert();
+  } catch (const Failure& f) {
+    return f.number();
+  }
+  return 0;
+}
+
+void CheckLocale(const LocaleCase& c) {
+  const DateValue lastReported = ComposeDate({2026, 3, 2, 9, 5, 7});
+  {
+    LogicInProcess logic(Settings{{L"LastReported", c.lastReported}});
+    CHECK(SameSecond(logic.settings().LastReported, lastReported));
+  }
+  {
+    // Text that is no date here leaves the value as it was, and nobody is told.
+    LogicInProcess logic(Settings{{L"LastReported", c.unreadable}});
+    CHECK(logic.settings().LastReported == kEmptyDate);
+    CHECK(Watcher().Take().empty());
+  }
+
+  LogicInProcess logic(Settings{{L"AskForConfirmationBeforeReporting", L"0"}});
+  auto series = logic.world.AddRecurringAppointment("Weekly", ComposeDate({2026, 3, 2, 14, 30, 0}),
+                                                    ComposeDate({2026, 3, 2, 15, 0, 0}),
+                                                    logic.world.Calendar());
+  auto occurrence = logic.world.Occurrence(*series, ComposeDate({2026, 3, 9, 14, 30, 0}));
+  ClearJournal();
+  ReportToDB(logic.s, "STORE", occurrence->AsObject());
+  CHECK_EQ(FinishedLaunches(),
+           std::vector<std::string>{"0|STORE|" + occurrence->EntryId() + ";" + c.occurrence});
+  CHECK(Watcher().Take().empty());
+}
+
+}  // namespace
+
+WINE_TEST(UserLocale, German) {
+  InUserLocale("de_DE.UTF-8", 0x0407, "UserLocale.German", [] {
+    // Windows writes German dates with two-digit days and months; Wine's
+    // locale data does not, so the user's format says it here, for this run.
+    wchar_t before[80] = {};
+    REQUIRE(GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, before, 80) > 0);
+    REQUIRE(SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, L"dd.MM.yyyy"));
+    struct Restore {
+      const wchar_t* format;
+      ~Restore() { SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, format); }
+    } restore{before};
+    CheckLocale({L"02.03.2026 09:05:07", L"31.02.2026 09:05:07", "09.03.2026 14:30:00"});
+    // Numbers: a decimal comma; text the locale cannot read is a type mismatch.
+    CHECK(Variant("1,5").ToDouble() == 1.5);
+    CHECK_EQ(Variant(2.5).ToText(), std::string("2,5"));
+    CHECK(Variant("1,5").IsNumeric());
+    CHECK(!Variant("1,5x").IsNumeric());
+    CHECK_EQ(FailureNumber([] { Variant("1,5x").ToDouble(); }), err::kTypeMismatch);
+    CHECK_EQ(Variant("&HFFFF").ToInteger(), int16_t{-1});
+  });
+}
+
+WINE_TEST(UserLocale, EnglishUnitedKingdom) {
+  InUserLocale("en_GB.UTF-8", 0x0809, "UserLocale.EnglishUnitedKingdom", [] {
+    CheckLocale({L"02/03/2026 09:05:07", L"31/02/2026 09:05:07", "09/03/2026 14:30:00"});
+    CHECK(Variant("02/03/2026").IsDate());
+    CHECK(!Variant("31/02/2026").IsDate());
+    CHECK_EQ(Variant(2.5).ToText(), std::string("2.5"));
+  });
+}
+
+}  // namespace qvx::winetest
