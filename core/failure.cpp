@@ -20,6 +20,8 @@ std::string RuntimeErrorDescription(int32_t number) {
       return "Object variable or With block variable not set";
     case err::kInvalidUseOfNull:
       return "Invalid use of Null";
+    case err::kResourceNotFound:
+      return "Resource with identifier not found";
     case err::kObjectRequired:
       return "Object required";
     case err::kNoSuchMember:

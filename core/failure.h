@@ -22,6 +22,7 @@ inline constexpr int32_t kTypeMismatch = 13;
 inline constexpr int32_t kInternalError = 51;
 inline constexpr int32_t kObjectNotSet = 91;
 inline constexpr int32_t kInvalidUseOfNull = 94;
+inline constexpr int32_t kResourceNotFound = 326;
 inline constexpr int32_t kObjectRequired = 424;
 inline constexpr int32_t kNoSuchMember = 438;
 inline constexpr int32_t kArgumentNotOptional = 449;

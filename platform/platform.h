@@ -6,6 +6,7 @@
 #include "platform/message_windows.h"
 #include "platform/object_factory.h"
 #include "platform/registry_api.h"
+#include "platform/resources.h"
 #include "platform/system_services.h"
 #include "platform/user_interface.h"
 
@@ -17,6 +18,7 @@ struct Platform {
   UserInterface* ui = nullptr;
   SystemServices* system = nullptr;
   MessageWindows* windows = nullptr;
+  Resources* resources = nullptr;
 };
 
 }  // namespace qvx::platform

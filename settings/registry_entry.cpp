@@ -1,7 +1,5 @@
 #include "settings/registry_entry.h"
 
-#include <optional>
-
 #include "core/text.h"
 #include "core/trap.h"
 #include "state/addin_state.h"
@@ -9,6 +7,7 @@
 namespace qvx::modRegistryEntry {
 namespace {
 
+using platform::Hive;
 using platform::RegistryApi;
 
 constexpr std::string_view kSource = "QVXClient";
@@ -37,83 +36,51 @@ std::u16string KeyPath(std::string_view appName, std::string_view section) {
   return Utf8ToUtf16(path);
 }
 
-// Closes the key with failures ignored, then raises what the body kept.
-void CleanUp(RegistryApi& registry, bool opened, RegistryApi::Key key,
-             const std::optional<Failure>& kept) {
-  if (opened) {
-    try {
-      registry.CloseKey(key);
-    } catch (...) {
-      // A failed close changes nothing for the caller.
-    }
-  }
-  if (kept) throw *kept;
-}
-
 }  // namespace
 
 void SaveRegistrySetting(AddinState& s, std::string_view AppName, std::string_view Section,
                          std::string_view Key, std::string_view Setting) {
+  CheckNames(AppName, Key);
   RegistryApi& registry = s.registry();
-  RegistryApi::Key key = 0;
-  bool opened = false;
-  std::optional<Failure> kept;
-  try {
-    CheckNames(AppName, Key);
-    const long created = registry.CreateKey(KeyPath(AppName, Section), key);
-    if (created != platform::kErrorSuccess) {
-      Raise(WithCode(static_cast<uint32_t>(created)), "Could not open/create registry section");
-    }
-    opened = true;
-    // The name is tested trimmed but written as given.
-    const long set = registry.SetStringValue(key, Utf8ToUtf16(Key), Utf8ToUtf16(Setting));
-    if (set != platform::kErrorSuccess) {
-      Raise(WithCode(static_cast<uint32_t>(set)), "Could not set key value");
-    }
-  } catch (...) {
-    kept = CurrentFailure();
+  // The key closes itself on every way out, a raised failure included.
+  const auto [created, key] = registry.Create(Hive::CurrentUser, KeyPath(AppName, Section));
+  if (created != platform::kErrorSuccess) {
+    Raise(WithCode(static_cast<uint32_t>(created)), "Could not open/create registry section");
   }
-  CleanUp(registry, opened, key, kept);
+  // The name is tested trimmed but written as given.
+  const long set = registry.SetStringValue(key.get(), Utf8ToUtf16(Key), Utf8ToUtf16(Setting));
+  if (set != platform::kErrorSuccess) {
+    Raise(WithCode(static_cast<uint32_t>(set)), "Could not set key value");
+  }
 }
 
 std::string GetRegistrySetting(AddinState& s, std::string_view AppName, std::string_view Section,
                                std::string_view Key, std::string_view Default) {
+  CheckNames(AppName, Key);
   RegistryApi& registry = s.registry();
-  RegistryApi::Key key = 0;
-  bool opened = false;
-  std::optional<Failure> kept;
-  std::string result;
-  try {
-    CheckNames(AppName, Key);
-    const long open = registry.OpenKey(KeyPath(AppName, Section), platform::kKeyRead, key);
-    if (open == platform::kErrorFileNotFound) return std::string(Default);
-    if (open != platform::kErrorSuccess) {
-      Raise(WithCode(static_cast<uint32_t>(open)), "Could not open registry section");
-    }
-    opened = true;
-    uint32_t type = 0;
-    uint32_t size = 0;
+  auto [open, key] =
+      registry.Open(Hive::CurrentUser, KeyPath(AppName, Section), platform::kKeyRead);
+  if (open == platform::kErrorFileNotFound) return std::string(Default);
+  if (open != platform::kErrorSuccess) {
+    Raise(WithCode(static_cast<uint32_t>(open)), "Could not open registry section");
+  }
+  uint32_t type = 0;
+  uint32_t size = 0;
+  if (registry.QueryValueInfoA(key.get(), Key, type, size) != platform::kErrorSuccess) {
     // An absent value: the key handle stays open on this one path, as it
     // always has; the store must not start closing it behind the caller.
-    if (registry.QueryValueInfoA(key, Key, type, size) != platform::kErrorSuccess) {
-      return std::string(Default);
-    }
-    if (type != platform::kRegSz) Raise(WithCode(type), "Registry data not a string");
-    if (size > 0) {
-      // The ANSI size counts a terminator: the text is size - 1 characters.
-      std::u16string buffer(size, u'\0');
-      if (registry.QueryValueW(key, Utf8ToUtf16(Key), buffer) != platform::kErrorSuccess) {
-        result = std::string(Default);
-      } else {
-        buffer.resize(size - 1);
-        result = Utf16ToUtf8(buffer);
-      }
-    }
-  } catch (...) {
-    kept = CurrentFailure();
+    [[maybe_unused]] const RegistryApi::Key leftOpen = key.Detach();
+    return std::string(Default);
   }
-  CleanUp(registry, opened, key, kept);
-  return result;
+  if (type != platform::kRegSz) Raise(WithCode(type), "Registry data not a string");
+  if (size == 0) return {};
+  // The ANSI size counts a terminator: the text is size - 1 characters.
+  std::u16string buffer(size, u'\0');
+  if (registry.QueryValueW(key.get(), Utf8ToUtf16(Key), buffer) != platform::kErrorSuccess) {
+    return std::string(Default);
+  }
+  buffer.resize(size - 1);
+  return Utf16ToUtf8(buffer);
 }
 
 }  // namespace qvx::modRegistryEntry

@@ -30,7 +30,8 @@ TestAddin::TestAddin(TestAddinOptions options)
                            .objects = &objects,
                            .ui = &ui,
                            .system = &system,
-                           .windows = &windows}) {
+                           .windows = &windows,
+                           .resources = &resources}) {
   ConnectUpwardCalls(s);
   std::filesystem::create_directories(Home());
   system.SetClock(ComposeDate(kNow));

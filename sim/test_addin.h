@@ -10,6 +10,7 @@
 //   objects   the POSIX stand-ins; register ProgIDs and running objects on it
 //   ui        boxes and forms recorded and answered from a script
 //   windows   listeners that hear nothing (InertWindows)
+//   resources the add-in's own, embedded in the build
 //
 // The add-in's `objOutlook` is a host with no members (every call fails
 // with 438), so that the central reporter needs no Outlook, or Nothing when
@@ -25,6 +26,7 @@
 #include <vector>
 
 #include "core/dates.h"
+#include "platform/posix/embedded_resources.h"
 #include "platform/posix/file_registry.h"
 #include "platform/posix/posix_objects.h"
 #include "platform/posix/posix_system.h"
@@ -81,6 +83,7 @@ class TestAddin {
   platform::PosixObjectFactory objects;
   platform::ScriptedUserInterface ui;
   InertWindows windows;
+  platform::EmbeddedResources resources{platform::ProductResources()};
   AddinState s;
 };
 

@@ -89,6 +89,7 @@ QVXClientAddin& World::addin() {
     platform.ui = &ui_;
     platform.system = system_.get();
     platform.windows = &windows_;
+    platform.resources = &resources_;
     addin_ = std::make_unique<QVXClientAddin>(platform);
   }
   return *addin_;

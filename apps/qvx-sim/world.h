@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "addin/addin.h"
+#include "platform/posix/embedded_resources.h"
 #include "platform/posix/file_registry.h"
 #include "platform/posix/posix_objects.h"
 #include "platform/posix/posix_system.h"
@@ -106,6 +107,7 @@ class World {
   std::unique_ptr<platform::PosixSystemServices> system_;
   std::unique_ptr<platform::PosixObjectFactory> objects_;
   platform::SocketMessageWindows windows_;
+  platform::EmbeddedResources resources_{platform::ProductResources()};
   std::unique_ptr<sim::Outlook> host_;
   std::unique_ptr<sim::MailLibraryStandIn> mailLibrary_;
   std::unique_ptr<QVXClientAddin> addin_;

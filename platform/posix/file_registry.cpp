@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "core/text.h"
+#include "platform/posix/unique_fd.h"
 
 namespace qvx::platform {
 namespace {
@@ -25,16 +26,16 @@ enum class FileRead { Missing, Unreadable, Read };
 FileRead ReadWhole(const std::string& path, std::string& out) {
   out.clear();
   // Non-blocking, so that a FIFO or device in its place cannot hang a read.
-  const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
-  if (fd < 0) return errno == ENOENT ? FileRead::Missing : FileRead::Unreadable;
+  const UniqueFd fd(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+  if (!fd) return errno == ENOENT ? FileRead::Missing : FileRead::Unreadable;
   struct stat st {};
   FileRead result = FileRead::Read;
-  if (::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_size > kMaxFileBytes) {
+  if (::fstat(fd.get(), &st) != 0 || !S_ISREG(st.st_mode) || st.st_size > kMaxFileBytes) {
     result = FileRead::Unreadable;
   } else {
     char buffer[8192];
     while (true) {
-      const ssize_t n = ::read(fd, buffer, sizeof buffer);
+      const ssize_t n = ::read(fd.get(), buffer, sizeof buffer);
       if (n == 0) break;
       if (n < 0) {
         if (errno == EINTR) continue;
@@ -48,7 +49,6 @@ FileRead ReadWhole(const std::string& path, std::string& out) {
       }
     }
   }
-  ::close(fd);
   if (result != FileRead::Read) out.clear();
   return result;
 }
@@ -75,24 +75,15 @@ bool WriteAll(int fd, const std::string& text) {
 
 // Serialises writers of one file across processes; best effort: without the
 // lock a write still replaces the file whole.
-class FileLock {
- public:
-  explicit FileLock(const std::string& path)
-      : fd_(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOCTTY, 0600)) {
-    if (fd_ >= 0) {
-      while (::flock(fd_, LOCK_EX) != 0 && errno == EINTR) {
-      }
+// Closing the descriptor releases the lock.
+UniqueFd LockFile(const std::string& path) {
+  UniqueFd fd(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOCTTY, 0600));
+  if (fd) {
+    while (::flock(fd.get(), LOCK_EX) != 0 && errno == EINTR) {
     }
   }
-  ~FileLock() {
-    if (fd_ >= 0) ::close(fd_);  // closing releases the lock
-  }
-  FileLock(const FileLock&) = delete;
-  FileLock& operator=(const FileLock&) = delete;
-
- private:
-  int fd_;
-};
+  return fd;
+}
 
 bool IsUtf8(std::string_view s) {
   return SanitizeUtf8(s) == s;
@@ -100,8 +91,10 @@ bool IsUtf8(std::string_view s) {
 
 }  // namespace
 
-FileRegistry::FileRegistry(std::string path)
-    : path_(path.empty() ? DefaultLocation() : std::move(path)) {}
+FileRegistry::FileRegistry(std::string path, std::string machinePath) {
+  user_.path = path.empty() ? DefaultLocation() : std::move(path);
+  machine_.path = machinePath.empty() ? MachineLocationBeside(user_.path) : std::move(machinePath);
+}
 
 std::string FileRegistry::DefaultLocation() {
   if (const char* file = std::getenv("QVX_REGISTRY_FILE"); file != nullptr && *file != '\0') {
@@ -116,113 +109,137 @@ std::string FileRegistry::DefaultLocation() {
   return "quorvix-registry.txt";
 }
 
-Verdict FileRegistry::Load() {
+std::string FileRegistry::MachineLocationBeside(std::string_view userFile) {
+  if (const char* file = std::getenv("QVX_MACHINE_REGISTRY_FILE");
+      file != nullptr && *file != '\0') {
+    return file;
+  }
+  const size_t slash = userFile.rfind('/');
+  const std::string_view folder =
+      slash == std::string_view::npos ? std::string_view() : userFile.substr(0, slash + 1);
+  return std::string(folder) + "machine-registry.txt";
+}
+
+Verdict FileRegistry::Load(HiveFile& file) {
   std::string bytes;
-  switch (ReadWhole(path_, bytes)) {
+  switch (ReadWhole(file.path, bytes)) {
     case FileRead::Missing:
-      haveLast_ = false;
-      contents_ = Contents{};
+      file.haveLast = false;
+      file.contents = Contents{};
       return Verdict::Empty;
     case FileRead::Unreadable:
-      haveLast_ = false;
-      contents_ = Contents{};
+      file.haveLast = false;
+      file.contents = Contents{};
       return Verdict::Foreign;
     case FileRead::Read:
       break;
   }
-  if (haveLast_ && bytes == lastBytes_) return lastVerdict_;
-  lastVerdict_ = regfile::Parse(bytes, contents_);
-  lastBytes_ = std::move(bytes);
-  haveLast_ = true;
-  return lastVerdict_;
+  if (file.haveLast && bytes == file.lastBytes) return file.lastVerdict;
+  file.lastVerdict = regfile::Parse(bytes, file.contents);
+  file.lastBytes = std::move(bytes);
+  file.haveLast = true;
+  return file.lastVerdict;
 }
 
 template <class Change>
-long FileRegistry::Update(Change&& change) {
-  EnsureParentFolder(path_);
-  FileLock lock(path_ + ".lock");
-  const Verdict verdict = Load();
+long FileRegistry::Update(HiveFile& file, Change&& change) {
+  EnsureParentFolder(file.path);
+  const UniqueFd lock = LockFile(file.path + ".lock");
+  const Verdict verdict = Load(file);
   if (verdict == Verdict::Foreign) return kErrorAccessDenied;
-  Contents next = contents_;  // empty unless the file was valid
+  Contents next = file.contents;  // empty unless the file was valid
   const bool changed = std::forward<Change>(change)(next);
   if (!changed && verdict == Verdict::Valid) return kErrorSuccess;
   std::string text = regfile::Serialize(next);
-  if (!WriteAtomically(text)) return kErrorAccessDenied;
-  contents_ = std::move(next);
-  lastBytes_ = std::move(text);
-  lastVerdict_ = Verdict::Valid;
-  haveLast_ = true;
+  if (!WriteAtomically(file.path, text)) return kErrorAccessDenied;
+  file.contents = std::move(next);
+  file.lastBytes = std::move(text);
+  file.lastVerdict = Verdict::Valid;
+  file.haveLast = true;
   return kErrorSuccess;
 }
 
-bool FileRegistry::WriteAtomically(const std::string& text) const {
-  std::string name = path_ + ".tmp.XXXXXX";
-  const int fd = ::mkstemp(name.data());
-  if (fd < 0) return false;
-  ::fcntl(fd, F_SETFD, FD_CLOEXEC);
-  const bool written = WriteAll(fd, text);
-  const bool closed = ::close(fd) == 0;
-  if (!written || !closed || ::rename(name.c_str(), path_.c_str()) != 0) {
+bool FileRegistry::WriteAtomically(const std::string& path, const std::string& text) {
+  std::string name = path + ".tmp.XXXXXX";
+  UniqueFd fd(::mkstemp(name.data()));
+  if (!fd) return false;
+  ::fcntl(fd.get(), F_SETFD, FD_CLOEXEC);
+  const bool written = WriteAll(fd.get(), text);
+  const bool closed = ::close(fd.Detach()) == 0;
+  if (!written || !closed || ::rename(name.c_str(), path.c_str()) != 0) {
     ::unlink(name.c_str());
     return false;
   }
   return true;
 }
 
-RegistryApi::Key FileRegistry::HandleFor(const std::string& keyPath) {
-  const std::string folded = FoldCase(keyPath);
+RegistryApi::Key FileRegistry::HandleFor(Hive hive, const std::string& keyPath) {
+  std::string folded = FoldCase(keyPath);
+  folded.insert(0, hive == Hive::LocalMachine ? "M:" : "U:");
   auto it = handleIndex_.find(folded);
   if (it == handleIndex_.end()) {
     it = handleIndex_.emplace(folded, handlePaths_.size()).first;
-    handlePaths_.push_back(keyPath);
+    handlePaths_.push_back(OpenKeyPath{hive, keyPath});
   }
   ++openHandles_;
   return static_cast<Key>(it->second + 1);
 }
 
-const std::string* FileRegistry::PathOf(Key key) const {
+const FileRegistry::OpenKeyPath* FileRegistry::PathOf(Key key) const {
   if (key == 0 || key > handlePaths_.size()) return nullptr;
   return &handlePaths_[key - 1];
 }
 
-long FileRegistry::CreateKey(std::u16string_view subKey, Key& key) {
+long FileRegistry::CreateKey(Hive hive, std::u16string_view subKey, Key& key) {
   key = 0;
   const std::string path = Utf16ToUtf8(subKey);
   if (!path.empty()) {
-    const long result = Update([&](Contents& c) {
+    const long result = Update(File(hive), [&](Contents& c) {
       if (c.HasKey(path)) return false;
       c.AddKey(path);
       return true;
     });
     if (result != kErrorSuccess) return result;
   }
-  key = HandleFor(path);
+  key = HandleFor(hive, path);
   return kErrorSuccess;
 }
 
 long FileRegistry::SetStringValue(Key key, std::u16string_view name, std::u16string_view data) {
-  const std::string* path = PathOf(key);
-  if (path == nullptr) return kErrorInvalidHandle;
+  const OpenKeyPath* open = PathOf(key);
+  if (open == nullptr) return kErrorInvalidHandle;
   Value value{kRegSz, Utf16ToUtf8(data)};
   const std::string valueName = Utf16ToUtf8(name);
-  return Update([&](Contents& c) { return c.Set(*path, valueName, std::move(value)); });
+  return Update(File(open->hive),
+                [&](Contents& c) { return c.Set(open->path, valueName, std::move(value)); });
 }
 
-long FileRegistry::OpenKey(std::u16string_view subKey, uint32_t, Key& key) {
+long FileRegistry::OpenKey(Hive hive, std::u16string_view subKey, uint32_t access, Key& key) {
+  return OpenKeyA(hive, Utf16ToUtf8(subKey), access, key);
+}
+
+long FileRegistry::OpenKeyA(Hive hive, std::string_view ansiSubKey, uint32_t, Key& key) {
   key = 0;
-  const std::string path = Utf16ToUtf8(subKey);
-  Load();
-  if (!path.empty() && !contents_.HasKey(path)) return kErrorFileNotFound;
-  key = HandleFor(path);
+  const std::string path(ansiSubKey);
+  HiveFile& file = File(hive);
+  Load(file);
+  if (!path.empty() && !file.contents.HasKey(path)) return kErrorFileNotFound;
+  key = HandleFor(hive, path);
   return kErrorSuccess;
+}
+
+const regfile::Value* FileRegistry::FindValue(Key key, std::string_view name) {
+  const OpenKeyPath* open = PathOf(key);
+  if (open == nullptr) return nullptr;
+  HiveFile& file = File(open->hive);
+  Load(file);
+  return file.contents.Find(open->path, name);
 }
 
 long FileRegistry::QueryValueInfoA(Key key, std::string_view ansiName, uint32_t& type,
                                    uint32_t& size) {
-  const std::string* path = PathOf(key);
-  if (path == nullptr) return kErrorInvalidHandle;
-  Load();
-  const Value* value = contents_.Find(*path, ansiName);
+  if (PathOf(key) == nullptr) return kErrorInvalidHandle;
+  const Value* value = FindValue(key, ansiName);
   if (value == nullptr) return kErrorFileNotFound;
   type = value->type;
   if (regfile::IsTextType(value->type)) {
@@ -234,11 +251,22 @@ long FileRegistry::QueryValueInfoA(Key key, std::string_view ansiName, uint32_t&
   return kErrorSuccess;
 }
 
+long FileRegistry::QueryValueA(Key key, std::string_view ansiName, uint32_t& type,
+                               std::string& buffer) {
+  if (PathOf(key) == nullptr) return kErrorInvalidHandle;
+  const Value* value = FindValue(key, ansiName);
+  if (value == nullptr) return kErrorFileNotFound;
+  type = value->type;
+  std::string bytes = value->data;
+  if (regfile::IsTextType(value->type)) bytes += '\0';
+  if (bytes.size() > buffer.size()) return kErrorMoreData;
+  buffer = std::move(bytes);
+  return kErrorSuccess;
+}
+
 long FileRegistry::QueryValueW(Key key, std::u16string_view name, std::u16string& buffer) {
-  const std::string* path = PathOf(key);
-  if (path == nullptr) return kErrorInvalidHandle;
-  Load();
-  const Value* value = contents_.Find(*path, Utf16ToUtf8(name));
+  if (PathOf(key) == nullptr) return kErrorInvalidHandle;
+  const Value* value = FindValue(key, Utf16ToUtf8(name));
   if (value == nullptr) return kErrorFileNotFound;
   if (regfile::IsTextType(value->type)) {
     const std::u16string text = Utf8ToUtf16(value->data);
@@ -262,56 +290,63 @@ long FileRegistry::CloseKey(Key key) {
   return kErrorSuccess;
 }
 
-bool FileRegistry::SetValue(std::string_view keyPath, std::string_view name, const Value& value) {
+bool FileRegistry::SetValue(std::string_view keyPath, std::string_view name, const Value& value,
+                            Hive hive) {
   if (keyPath.empty() || !IsUtf8(keyPath) || !IsUtf8(name) || !regfile::IsStorable(value)) {
     return false;
   }
-  return Update([&](Contents& c) { return c.Set(keyPath, name, value); }) == kErrorSuccess;
+  return Update(File(hive), [&](Contents& c) { return c.Set(keyPath, name, value); }) ==
+         kErrorSuccess;
 }
 
-bool FileRegistry::SetString(std::string_view keyPath, std::string_view name,
-                             std::string_view text) {
-  return SetValue(keyPath, name, Value{kRegSz, std::string(text)});
+bool FileRegistry::SetString(std::string_view keyPath, std::string_view name, std::string_view text,
+                             Hive hive) {
+  return SetValue(keyPath, name, Value{kRegSz, std::string(text)}, hive);
 }
 
-bool FileRegistry::SetDword(std::string_view keyPath, std::string_view name, uint32_t value) {
+bool FileRegistry::SetDword(std::string_view keyPath, std::string_view name, uint32_t value,
+                            Hive hive) {
   std::string bytes;
   for (int i = 0; i < 4; ++i) bytes += static_cast<char>((value >> (8 * i)) & 0xFF);
-  return SetValue(keyPath, name, Value{kRegDword, std::move(bytes)});
+  return SetValue(keyPath, name, Value{kRegDword, std::move(bytes)}, hive);
 }
 
 bool FileRegistry::SetBinary(std::string_view keyPath, std::string_view name,
-                             std::string_view bytes) {
-  return SetValue(keyPath, name, Value{kRegBinary, std::string(bytes)});
+                             std::string_view bytes, Hive hive) {
+  return SetValue(keyPath, name, Value{kRegBinary, std::string(bytes)}, hive);
 }
 
 std::optional<FileRegistry::Value> FileRegistry::ReadValue(std::string_view keyPath,
-                                                           std::string_view name) {
-  Load();
-  const Value* value = contents_.Find(keyPath, name);
+                                                           std::string_view name, Hive hive) {
+  HiveFile& file = File(hive);
+  Load(file);
+  const Value* value = file.contents.Find(keyPath, name);
   if (value == nullptr) return std::nullopt;
   return *value;
 }
 
-std::optional<std::string> FileRegistry::ReadString(std::string_view keyPath,
-                                                    std::string_view name) {
-  std::optional<Value> value = ReadValue(keyPath, name);
+std::optional<std::string> FileRegistry::ReadString(std::string_view keyPath, std::string_view name,
+                                                    Hive hive) {
+  std::optional<Value> value = ReadValue(keyPath, name, hive);
   if (!value || value->type != kRegSz) return std::nullopt;
   return std::move(value->data);
 }
 
-std::vector<FileRegistry::NamedValue> FileRegistry::ListValues(std::string_view keyPath) {
+std::vector<FileRegistry::NamedValue> FileRegistry::ListValues(std::string_view keyPath,
+                                                               Hive hive) {
   std::vector<NamedValue> out;
-  Load();
-  if (const auto* values = contents_.keys.Find(keyPath)) {
+  HiveFile& file = File(hive);
+  Load(file);
+  if (const auto* values = file.contents.keys.Find(keyPath)) {
     for (const auto& entry : *values) out.push_back(NamedValue{entry.key, entry.value});
   }
   return out;
 }
 
-bool FileRegistry::KeyExists(std::string_view keyPath) {
-  Load();
-  return contents_.HasKey(keyPath);
+bool FileRegistry::KeyExists(std::string_view keyPath, Hive hive) {
+  HiveFile& file = File(hive);
+  Load(file);
+  return file.contents.HasKey(keyPath);
 }
 
 }  // namespace qvx::platform

@@ -1,6 +1,8 @@
 // FileRegistry: the registry of the POSIX build, a file of typed values under
-// key paths (the format: docs/registry-file.md). It stands for
-// HKEY_CURRENT_USER and is shared with the companion stand-ins, so:
+// key paths for each hive (the format: docs/registry-file.md). The user's file
+// stands for HKEY_CURRENT_USER, a second file beside it for
+// HKEY_LOCAL_MACHINE. Both are shared with other processes (the companion
+// stand-ins), so:
 //
 // - every open and query reads the file again, and sees another process's write;
 // - every write replaces the file atomically (temporary file, then rename)
@@ -10,10 +12,12 @@
 //   this format, but refuses (access denied) to replace a foreign one.
 //
 // Key paths are relative to the hive, as "Software\Zenbrook\QVX". Keys and
-// value names compare without regard to case, like the registry's.
+// value names compare without regard to case, like the registry's. The direct
+// calls work on the user's hive unless told another.
 //
 //   FileRegistry registry;  // QVX_REGISTRY_FILE, or the user's data folder
 //   registry.SetString("Software\\Zenbrook\\QVX", "DBChoice", "0");
+//   registry.SetString("SOFTWARE\\Vendor", "PATH", "C:\\x.exe", Hive::LocalMachine);
 //   std::optional<std::string> v = registry.ReadString("Software\\Zenbrook\\QVX", "DBChoice");
 #pragma once
 
@@ -37,56 +41,86 @@ class FileRegistry final : public RegistryApi {
     Value value;
   };
 
-  // The file at `path`; an empty path means DefaultLocation().
-  explicit FileRegistry(std::string path = {});
+  // The user's file at `path` (empty: DefaultLocation()) and the machine's
+  // at `machinePath` (empty: MachineLocationBeside(the user's file)).
+  explicit FileRegistry(std::string path = {}, std::string machinePath = {});
 
   // $QVX_REGISTRY_FILE if set, else "quorvix/registry.txt" under
   // $XDG_DATA_HOME, else under $HOME/.local/share.
   static std::string DefaultLocation();
-  const std::string& path() const noexcept { return path_; }
+  // $QVX_MACHINE_REGISTRY_FILE if set, else "machine-registry.txt" in the
+  // folder of `userFile`.
+  static std::string MachineLocationBeside(std::string_view userFile);
+  const std::string& path(Hive hive = Hive::CurrentUser) const noexcept { return File(hive).path; }
 
   // RegistryApi. Results: 0, 2 (absent), 5 (file not writable or foreign),
   // 6 (bad handle), 234 (buffer too small).
-  long CreateKey(std::u16string_view subKey, Key& key) override;
+  // The ANSI calls take and give UTF-8.
+  long CreateKey(Hive hive, std::u16string_view subKey, Key& key) override;
   long SetStringValue(Key key, std::u16string_view name, std::u16string_view data) override;
-  long OpenKey(std::u16string_view subKey, uint32_t access, Key& key) override;
+  long OpenKey(Hive hive, std::u16string_view subKey, uint32_t access, Key& key) override;
+  long OpenKeyA(Hive hive, std::string_view ansiSubKey, uint32_t access, Key& key) override;
   // For text: UTF-16 units plus a terminator, or 0 for the empty text.
   long QueryValueInfoA(Key key, std::string_view ansiName, uint32_t& type, uint32_t& size) override;
+  long QueryValueA(Key key, std::string_view ansiName, uint32_t& type,
+                   std::string& buffer) override;
   long QueryValueW(Key key, std::u16string_view name, std::u16string& buffer) override;
   long CloseKey(Key key) override;
 
   // Direct access for tests, scenarios and the companion stand-ins.
   // Setters return false if the file could not be written (or the value is
   // not storable: invalid UTF-8 text, a DWORD of other than 4 bytes).
-  bool SetString(std::string_view keyPath, std::string_view name, std::string_view text);
-  bool SetDword(std::string_view keyPath, std::string_view name, uint32_t value);
-  bool SetBinary(std::string_view keyPath, std::string_view name, std::string_view bytes);
-  bool SetValue(std::string_view keyPath, std::string_view name, const Value& value);
-  std::optional<Value> ReadValue(std::string_view keyPath, std::string_view name);
+  bool SetString(std::string_view keyPath, std::string_view name, std::string_view text,
+                 Hive hive = Hive::CurrentUser);
+  bool SetDword(std::string_view keyPath, std::string_view name, uint32_t value,
+                Hive hive = Hive::CurrentUser);
+  bool SetBinary(std::string_view keyPath, std::string_view name, std::string_view bytes,
+                 Hive hive = Hive::CurrentUser);
+  bool SetValue(std::string_view keyPath, std::string_view name, const Value& value,
+                Hive hive = Hive::CurrentUser);
+  std::optional<Value> ReadValue(std::string_view keyPath, std::string_view name,
+                                 Hive hive = Hive::CurrentUser);
   // The text of a REG_SZ value; nullopt if absent or of another type.
-  std::optional<std::string> ReadString(std::string_view keyPath, std::string_view name);
-  std::vector<NamedValue> ListValues(std::string_view keyPath);
-  bool KeyExists(std::string_view keyPath);
+  std::optional<std::string> ReadString(std::string_view keyPath, std::string_view name,
+                                        Hive hive = Hive::CurrentUser);
+  std::vector<NamedValue> ListValues(std::string_view keyPath, Hive hive = Hive::CurrentUser);
+  bool KeyExists(std::string_view keyPath, Hive hive = Hive::CurrentUser);
   // Handles opened and not yet closed (the store leaves one open on purpose).
   size_t OpenHandles() const noexcept { return openHandles_; }
 
  private:
-  // Reads the file again into contents_; parses only if its bytes changed
+  // One hive's file and what was last read from it.
+  struct HiveFile {
+    std::string path;
+    std::string lastBytes;
+    bool haveLast = false;
+    regfile::Verdict lastVerdict = regfile::Verdict::Empty;
+    regfile::Contents contents;
+  };
+  struct OpenKeyPath {
+    Hive hive;
+    std::string path;
+  };
+
+  HiveFile& File(Hive hive) noexcept { return hive == Hive::LocalMachine ? machine_ : user_; }
+  const HiveFile& File(Hive hive) const noexcept {
+    return hive == Hive::LocalMachine ? machine_ : user_;
+  }
+  // Reads the file again into its contents; parses only if its bytes changed
   // since the last time. A file that cannot be read is Foreign.
-  regfile::Verdict Load();
+  static regfile::Verdict Load(HiveFile& file);
   // Loads under the lock, applies `change`, and replaces the file if it changed.
   template <class Change>
-  long Update(Change&& change);
-  bool WriteAtomically(const std::string& text) const;
-  Key HandleFor(const std::string& keyPath);
-  const std::string* PathOf(Key key) const;
+  static long Update(HiveFile& file, Change&& change);
+  static bool WriteAtomically(const std::string& path, const std::string& text);
+  Key HandleFor(Hive hive, const std::string& keyPath);
+  const OpenKeyPath* PathOf(Key key) const;
+  // The value under an open key, read afresh; nullptr if absent or a bad key.
+  const Value* FindValue(Key key, std::string_view name);
 
-  std::string path_;
-  std::string lastBytes_;
-  bool haveLast_ = false;
-  regfile::Verdict lastVerdict_ = regfile::Verdict::Empty;
-  regfile::Contents contents_;
-  std::vector<std::string> handlePaths_;
+  HiveFile user_;
+  HiveFile machine_;
+  std::vector<OpenKeyPath> handlePaths_;
   std::unordered_map<std::string, size_t> handleIndex_;
   size_t openHandles_ = 0;
 };

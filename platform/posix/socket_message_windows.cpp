@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "platform/posix/unique_fd.h"
+
 namespace qvx::platform {
 namespace {
 
@@ -36,15 +38,14 @@ bool AddressOf(std::string_view caption, sockaddr_un& address, socklen_t& length
 }  // namespace
 
 struct SocketMessageWindows::Window final : ListenerWindow {
-  Window(int fd, WindowMessageHandler handler, std::weak_ptr<std::vector<Window*>> registry)
-      : fd(fd), handler(std::move(handler)), registry(std::move(registry)) {}
+  Window(UniqueFd fd, WindowMessageHandler handler, std::weak_ptr<std::vector<Window*>> registry)
+      : fd(std::move(fd)), handler(std::move(handler)), registry(std::move(registry)) {}
   ~Window() override {
     if (auto list = registry.lock()) std::erase(*list, this);
-    close(fd);
   }
   void SetCaption(std::string_view) override {}  // the caption is the socket's name
 
-  int fd;
+  UniqueFd fd;
   WindowMessageHandler handler;
   std::weak_ptr<std::vector<Window*>> registry;
 };
@@ -71,13 +72,12 @@ std::unique_ptr<ListenerWindow> SocketMessageWindows::CreateListener(std::string
   sockaddr_un address;
   socklen_t length = 0;
   if (!AddressOf(caption, address, length)) return nullptr;
-  const int fd = socket(AF_UNIX, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
-  if (fd < 0) return nullptr;
-  if (bind(fd, reinterpret_cast<const sockaddr*>(&address), length) != 0) {
-    close(fd);  // a window of that caption exists already
-    return nullptr;
+  UniqueFd fd(socket(AF_UNIX, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+  if (!fd) return nullptr;
+  if (bind(fd.get(), reinterpret_cast<const sockaddr*>(&address), length) != 0) {
+    return nullptr;  // a window of that caption exists already
   }
-  auto window = std::make_unique<Window>(fd, std::move(handler), windows_);
+  auto window = std::make_unique<Window>(std::move(fd), std::move(handler), windows_);
   windows_->push_back(window.get());
   return window;
 }
@@ -87,12 +87,11 @@ bool SocketMessageWindows::Post(std::string_view caption, uint32_t message, intp
   sockaddr_un address;
   socklen_t length = 0;
   if (!AddressOf(caption, address, length)) return false;
-  const int fd = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-  if (fd < 0) return false;
+  const UniqueFd fd(socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0));
+  if (!fd) return false;
   const Packet packet{message, wParam, lParam};
-  const ssize_t sent = sendto(fd, &packet, sizeof packet, MSG_DONTWAIT,
+  const ssize_t sent = sendto(fd.get(), &packet, sizeof packet, MSG_DONTWAIT,
                               reinterpret_cast<const sockaddr*>(&address), length);
-  close(fd);
   return sent == static_cast<ssize_t>(sizeof packet);
 }
 
@@ -103,7 +102,7 @@ size_t SocketMessageWindows::DispatchPending() {
   for (Window* window : snapshot) {
     while (std::find(windows_->begin(), windows_->end(), window) != windows_->end()) {
       Packet packet{};
-      const ssize_t got = recv(window->fd, &packet, sizeof packet, MSG_DONTWAIT);
+      const ssize_t got = recv(window->fd.get(), &packet, sizeof packet, MSG_DONTWAIT);
       if (got != static_cast<ssize_t>(sizeof packet)) break;
       // A message no handler takes goes nowhere: there is no previous procedure here.
       window->handler(packet.message, static_cast<intptr_t>(packet.wParam),
@@ -118,11 +117,8 @@ bool SocketMessageWindows::WindowExists(std::string_view caption) {
   sockaddr_un address;
   socklen_t length = 0;
   if (!AddressOf(caption, address, length)) return false;
-  const int fd = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-  if (fd < 0) return false;
-  const bool exists = connect(fd, reinterpret_cast<const sockaddr*>(&address), length) == 0;
-  close(fd);
-  return exists;
+  const UniqueFd fd(socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0));
+  return fd && connect(fd.get(), reinterpret_cast<const sockaddr*>(&address), length) == 0;
 }
 
 }  // namespace qvx::platform

@@ -8,6 +8,7 @@
 
 #include "platform/win32/com_module.h"
 #include "platform/win32/wide_text.h"
+#include "platform/win32/win_handles.h"
 
 namespace qvx::win32::detail {
 
@@ -31,38 +32,38 @@ class Win32ListenerWindow final : public platform::ListenerWindow {
   explicit Win32ListenerWindow(platform::WindowMessageHandler handler)
       : handler_(std::make_shared<platform::WindowMessageHandler>(std::move(handler))) {}
 
+  // The procedure is handed back before the window goes.
   ~Win32ListenerWindow() override {
-    if (!hwnd_) return;
-    Unhook();
-    DestroyWindow(hwnd_);
+    if (hwnd_) Unhook();
   }
 
   bool Create(std::string_view caption) {
     if (!EnsureListenerClass()) return false;
     // Top-level (no parent), never shown.
-    hwnd_ = CreateWindowExW(WS_EX_TOOLWINDOW, kListenerClass, Wide(caption).c_str(), WS_OVERLAPPED,
-                            0, 0, 0, 0, nullptr, nullptr, ThisModule(), nullptr);
+    hwnd_.Reset(CreateWindowExW(WS_EX_TOOLWINDOW, kListenerClass, Wide(caption).c_str(),
+                                WS_OVERLAPPED, 0, 0, 0, 0, nullptr, nullptr, ThisModule(),
+                                nullptr));
     if (!hwnd_) return false;
-    SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    SetWindowLongPtrW(hwnd_.get(), GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
     previous_ = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
+        SetWindowLongPtrW(hwnd_.get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Procedure)));
     if (!previous_) {
-      SetWindowLongPtrW(hwnd_, GWLP_USERDATA, 0);
-      DestroyWindow(std::exchange(hwnd_, nullptr));
+      SetWindowLongPtrW(hwnd_.get(), GWLP_USERDATA, 0);
+      hwnd_.Reset();
       return false;
     }
     return true;
   }
 
   void SetCaption(std::string_view caption) override {
-    if (hwnd_) SetWindowTextW(hwnd_, Wide(caption).c_str());
+    if (hwnd_) SetWindowTextW(hwnd_.get(), Wide(caption).c_str());
   }
 
  private:
   void Unhook() noexcept {
     if (!previous_) return;
-    SetWindowLongPtrW(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(previous_));
-    SetWindowLongPtrW(hwnd_, GWLP_USERDATA, 0);
+    SetWindowLongPtrW(hwnd_.get(), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(previous_));
+    SetWindowLongPtrW(hwnd_.get(), GWLP_USERDATA, 0);
     previous_ = nullptr;
   }
 
@@ -89,7 +90,7 @@ class Win32ListenerWindow final : public platform::ListenerWindow {
     return CallWindowProcW(previous, hwnd, message, wParam, lParam);
   }
 
-  HWND hwnd_ = nullptr;
+  UniqueHwnd hwnd_;
   WNDPROC previous_ = nullptr;
   std::shared_ptr<platform::WindowMessageHandler> handler_;
 };

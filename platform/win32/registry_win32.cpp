@@ -2,6 +2,8 @@
 
 #include "platform/win32/win32_api.h"
 
+#include "platform/win32/wide_text.h"
+
 #include <string>
 
 namespace qvx::win32 {
@@ -16,12 +18,21 @@ HKEY ToHkey(platform::RegistryApi::Key key) {
   return reinterpret_cast<HKEY>(key);
 }
 
+HKEY Root(platform::Hive hive) {
+  return hive == platform::Hive::LocalMachine ? HKEY_LOCAL_MACHINE : HKEY_CURRENT_USER;
+}
+
+// The handle when the call succeeded, else none.
+platform::RegistryApi::Key Opened(long rc, HKEY handle) {
+  return rc == ERROR_SUCCESS ? reinterpret_cast<platform::RegistryApi::Key>(handle) : 0;
+}
+
 }  // namespace
 
-long Win32RegistryApi::CreateKey(std::u16string_view subKey, Key& key) {
+long Win32RegistryApi::CreateKey(platform::Hive hive, std::u16string_view subKey, Key& key) {
   HKEY handle = nullptr;
-  const long rc = RegCreateKeyW(HKEY_CURRENT_USER, Terminated(subKey).c_str(), &handle);
-  key = rc == ERROR_SUCCESS ? reinterpret_cast<Key>(handle) : 0;
+  const long rc = RegCreateKeyW(Root(hive), Terminated(subKey).c_str(), &handle);
+  key = Opened(rc, handle);
   return rc;
 }
 
@@ -32,10 +43,19 @@ long Win32RegistryApi::SetStringValue(Key key, std::u16string_view name, std::u1
                         static_cast<DWORD>(2 * data.size()));
 }
 
-long Win32RegistryApi::OpenKey(std::u16string_view subKey, uint32_t access, Key& key) {
+long Win32RegistryApi::OpenKey(platform::Hive hive, std::u16string_view subKey, uint32_t access,
+                               Key& key) {
   HKEY handle = nullptr;
-  const long rc = RegOpenKeyExW(HKEY_CURRENT_USER, Terminated(subKey).c_str(), 0, access, &handle);
-  key = rc == ERROR_SUCCESS ? reinterpret_cast<Key>(handle) : 0;
+  const long rc = RegOpenKeyExW(Root(hive), Terminated(subKey).c_str(), 0, access, &handle);
+  key = Opened(rc, handle);
+  return rc;
+}
+
+long Win32RegistryApi::OpenKeyA(platform::Hive hive, std::string_view ansiSubKey, uint32_t access,
+                                Key& key) {
+  HKEY handle = nullptr;
+  const long rc = RegOpenKeyExA(Root(hive), ToAnsi(ansiSubKey).c_str(), 0, access, &handle);
+  key = Opened(rc, handle);
   return rc;
 }
 
@@ -47,6 +67,21 @@ long Win32RegistryApi::QueryValueInfoA(Key key, std::string_view ansiName, uint3
   const long rc = RegQueryValueExA(ToHkey(key), name.c_str(), nullptr, &t, nullptr, &s);
   type = t;
   size = s;
+  return rc;
+}
+
+long Win32RegistryApi::QueryValueA(Key key, std::string_view ansiName, uint32_t& type,
+                                   std::string& buffer) {
+  DWORD t = 0;
+  std::string ansi(buffer.size(), '\0');
+  DWORD bytes = static_cast<DWORD>(ansi.size());
+  const long rc = RegQueryValueExA(ToHkey(key), ToAnsi(ansiName).c_str(), nullptr, &t,
+                                   reinterpret_cast<BYTE*>(ansi.data()), &bytes);
+  type = t;
+  if (rc == ERROR_SUCCESS) {
+    ansi.resize(bytes);
+    buffer = FromAnsi(ansi);
+  }
   return rc;
 }
 

@@ -29,8 +29,9 @@ bool Start(std::wstring commandLine, int windowStyle) {
                       &startup, &process)) {
     return false;
   }
-  CloseHandle(process.hThread);
-  CloseHandle(process.hProcess);
+  // Nobody waits for the program: its handles are closed at once.
+  UniqueHandle thread(process.hThread);
+  UniqueHandle started(process.hProcess);
   return true;
 }
 
@@ -75,9 +76,9 @@ bool Win32SystemServices::CreateFolder(std::string_view path) {
 
 bool Win32SystemServices::AppendToFile(std::string_view path, std::string_view text) {
   if (path.empty()) return false;
-  UniqueHandle file(CreateFileW(Wide(path).c_str(), FILE_APPEND_DATA,
-                                FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS,
-                                FILE_ATTRIBUTE_NORMAL, nullptr));
+  const UniqueHandle file = KernelHandle(CreateFileW(Wide(path).c_str(), FILE_APPEND_DATA,
+                                                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                                     OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (!file) return false;
   DWORD written = 0;
   return WriteFile(file.get(), text.data(), static_cast<DWORD>(text.size()), &written, nullptr) &&

@@ -1,8 +1,9 @@
 // Owners for Win32 and COM resources: COM interface pointers, BSTR, VARIANT,
-// registry keys and windows. Each releases what it holds exactly once, so that
-// no early return or exception leaks a handle.
+// registry keys, windows and kernel handles. Each releases what it holds
+// exactly once, so that no early return or exception leaks a handle.
 #pragma once
 
+#include "core/unique_any.h"
 #include "platform/win32/win32_api.h"
 
 #include <string>
@@ -69,30 +70,19 @@ class Bstr {
       : b_(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {}
   static Bstr Adopt(BSTR b) {
     Bstr r;
-    r.b_ = b;
+    r.b_.Reset(b);
     return r;
   }
-  Bstr(const Bstr&) = delete;
-  Bstr& operator=(const Bstr&) = delete;
-  Bstr(Bstr&& o) noexcept : b_(std::exchange(o.b_, nullptr)) {}
-  Bstr& operator=(Bstr&& o) noexcept {
-    std::swap(b_, o.b_);
-    return *this;
-  }
-  ~Bstr() { SysFreeString(b_); }
 
-  BSTR get() const noexcept { return b_; }
-  BSTR* Put() noexcept {
-    SysFreeString(std::exchange(b_, nullptr));
-    return &b_;
-  }
-  BSTR Detach() noexcept { return std::exchange(b_, nullptr); }
+  BSTR get() const noexcept { return b_.get(); }
+  BSTR* Put() noexcept { return b_.Put(); }
+  BSTR Detach() noexcept { return b_.Detach(); }
   std::wstring_view view() const noexcept {
-    return b_ ? std::wstring_view(b_, SysStringLen(b_)) : std::wstring_view();
+    return b_ ? std::wstring_view(b_.get(), SysStringLen(b_.get())) : std::wstring_view();
   }
 
  private:
-  BSTR b_ = nullptr;
+  UniqueAny<BSTR, CloseWith<&SysFreeString>> b_;
 };
 
 // An owned VARIANT, cleared on destruction.
@@ -120,68 +110,14 @@ class ScopedVariant {
   VARIANT v_;
 };
 
-// An owned registry key.
-class UniqueHkey {
- public:
-  UniqueHkey() = default;
-  explicit UniqueHkey(HKEY k) : k_(k) {}
-  UniqueHkey(const UniqueHkey&) = delete;
-  UniqueHkey& operator=(const UniqueHkey&) = delete;
-  UniqueHkey(UniqueHkey&& o) noexcept : k_(std::exchange(o.k_, nullptr)) {}
-  UniqueHkey& operator=(UniqueHkey&& o) noexcept {
-    std::swap(k_, o.k_);
-    return *this;
-  }
-  ~UniqueHkey() { Reset(); }
-
-  void Reset() noexcept {
-    if (HKEY k = std::exchange(k_, nullptr)) RegCloseKey(k);
-  }
-  HKEY get() const noexcept { return k_; }
-  HKEY* Put() noexcept {
-    Reset();
-    return &k_;
-  }
-  explicit operator bool() const noexcept { return k_ != nullptr; }
-
- private:
-  HKEY k_ = nullptr;
-};
-
-// An owned window, destroyed with its owner.
-class UniqueHwnd {
- public:
-  UniqueHwnd() = default;
-  explicit UniqueHwnd(HWND h) : h_(h) {}
-  UniqueHwnd(const UniqueHwnd&) = delete;
-  UniqueHwnd& operator=(const UniqueHwnd&) = delete;
-  UniqueHwnd(UniqueHwnd&& o) noexcept : h_(std::exchange(o.h_, nullptr)) {}
-  ~UniqueHwnd() { Reset(); }
-
-  void Reset() noexcept {
-    if (HWND h = std::exchange(h_, nullptr)) DestroyWindow(h);
-  }
-  HWND get() const noexcept { return h_; }
-
- private:
-  HWND h_ = nullptr;
-};
-
-// An owned kernel handle.
-class UniqueHandle {
- public:
-  UniqueHandle() = default;
-  explicit UniqueHandle(HANDLE h) : h_(h == INVALID_HANDLE_VALUE ? nullptr : h) {}
-  UniqueHandle(const UniqueHandle&) = delete;
-  UniqueHandle& operator=(const UniqueHandle&) = delete;
-  ~UniqueHandle() {
-    if (h_) CloseHandle(h_);
-  }
-  HANDLE get() const noexcept { return h_; }
-  explicit operator bool() const noexcept { return h_ != nullptr; }
-
- private:
-  HANDLE h_ = nullptr;
-};
+// Owned handles of the system, each closed exactly once by its own call.
+using UniqueHkey = UniqueAny<HKEY, CloseWith<&RegCloseKey>>;
+using UniqueHwnd = UniqueAny<HWND, CloseWith<&DestroyWindow>>;
+// A kernel handle; calls that fail with INVALID_HANDLE_VALUE go through
+// KernelHandle, so that the owner holds nothing.
+using UniqueHandle = UniqueAny<HANDLE, CloseWith<&CloseHandle>>;
+inline UniqueHandle KernelHandle(HANDLE h) {
+  return UniqueHandle(h == INVALID_HANDLE_VALUE ? nullptr : h);
+}
 
 }  // namespace qvx::win32

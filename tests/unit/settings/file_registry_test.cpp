@@ -1,4 +1,5 @@
-// The POSIX registry file: typed values, sharing between processes, and a
+// The POSIX registry file: typed values, sharing between processes, the two
+// hives, keys that close themselves, and a
 // file that is missing, cut, foreign or garbage.
 #include "platform/posix/file_registry.h"
 
@@ -10,6 +11,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "core/text.h"
 #include "settings_fixture.h"
 
 namespace qvx::platform {
@@ -40,7 +42,8 @@ std::pair<ino_t, std::pair<time_t, long>> Identity(const std::string& path) {
 // Every way of reading, through the registry calls and the direct ones.
 void ReadEverything(FileRegistry& registry) {
   RegistryApi::Key key = 0;
-  if (registry.OpenKey(u"Software\\Zenbrook\\QVX", kKeyRead, key) == kErrorSuccess) {
+  if (registry.OpenKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead, key) ==
+      kErrorSuccess) {
     uint32_t type = 0, size = 0;
     registry.QueryValueInfoA(key, "DBChoice", type, size);
     std::u16string buffer(16, u'\0');
@@ -133,7 +136,8 @@ TEST(FileRegistry, UnreadableFilesReadAsNoValuesAndAreNeverRewrittenByReads) {
     FileRegistry registry(path);
     ReadEverything(registry);
     RegistryApi::Key key = 0;
-    EXPECT_EQ(registry.OpenKey(u"Software\\Zenbrook\\QVX", kKeyRead, key), kErrorFileNotFound);
+    EXPECT_EQ(registry.OpenKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead, key),
+              kErrorFileNotFound);
     EXPECT_TRUE(registry.ListValues(kQvxKey).empty());
     EXPECT_FALSE(registry.KeyExists(kQvxKey));
     if (!row.bytes) {
@@ -147,7 +151,8 @@ TEST(FileRegistry, UnreadableFilesReadAsNoValuesAndAreNeverRewrittenByReads) {
       EXPECT_EQ(registry.ListValues(kQvxKey).size(), 1u);
     } else if (row.name == "foreign text") {
       EXPECT_FALSE(registry.SetString(kQvxKey, "A", "1"));
-      EXPECT_EQ(registry.CreateKey(u"Software\\Zenbrook\\QVX", key), kErrorAccessDenied);
+      EXPECT_EQ(registry.CreateKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", key),
+                kErrorAccessDenied);
       EXPECT_EQ(Slurp(path), *row.bytes);
     }
   }
@@ -172,7 +177,8 @@ TEST(FileRegistry, WritersShareTheFile) {
   FileRegistry companion(folder.File("r.txt"));
   ASSERT_TRUE(companion.SetString(kQvxKey, "DBChoice", "1"));
   RegistryApi::Key key = 0;
-  ASSERT_EQ(addin.OpenKey(u"Software\\Zenbrook\\QVX", kKeyRead, key), kErrorSuccess);
+  ASSERT_EQ(addin.OpenKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead, key),
+            kErrorSuccess);
   uint32_t type = 0, size = 0;
   EXPECT_EQ(addin.QueryValueInfoA(key, "AutoSyncToDB", type, size), kErrorFileNotFound);
   ASSERT_TRUE(companion.SetString(kQvxKey, "AutoSyncToDB", "-1"));
@@ -195,7 +201,7 @@ TEST(FileRegistry, RegistryCallResults) {
   const std::string path = folder.File("sub/dir/r.txt");  // the first write makes the folders
   FileRegistry registry(path);
   RegistryApi::Key key = 0;
-  ASSERT_EQ(registry.CreateKey(u"Software\\Zenbrook\\QVX", key), kErrorSuccess);
+  ASSERT_EQ(registry.CreateKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", key), kErrorSuccess);
   EXPECT_TRUE(registry.KeyExists(kQvxKey));
   ASSERT_EQ(registry.SetStringValue(key, u"Name", u"hello"), kErrorSuccess);
   ASSERT_EQ(registry.SetStringValue(key, u"Empty", u""), kErrorSuccess);
@@ -213,7 +219,8 @@ TEST(FileRegistry, RegistryCallResults) {
   // Creating an existing key or storing an unchanged value writes nothing.
   const auto before = Identity(path);
   RegistryApi::Key again = 0;
-  ASSERT_EQ(registry.CreateKey(u"Software\\Zenbrook\\QVX", again), kErrorSuccess);
+  ASSERT_EQ(registry.CreateKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", again),
+            kErrorSuccess);
   ASSERT_TRUE(registry.SetString(kQvxKey, "Name", "hello"));
   EXPECT_TRUE(Identity(path) == before);
   EXPECT_EQ(registry.CloseKey(again), kErrorSuccess);
@@ -248,6 +255,62 @@ TEST(FileRegistry, DefaultLocationFollowsTheEnvironment) {
   for (const auto& [name, value] : saved) {
     value ? ::setenv(name, value->c_str(), 1) : ::unsetenv(name);
   }
+}
+
+TEST(FileRegistry, TheMachineHiveIsASecondFileBesideTheUsersOwn) {
+  TempFolder folder;
+  FileRegistry registry(folder.File("r.txt"));
+  EXPECT_EQ(registry.path(Hive::LocalMachine), folder.File("machine-registry.txt"));
+  const std::string key = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
+  ASSERT_TRUE(registry.SetString(key, "PATH", "C:\\msinfo32.exe", Hive::LocalMachine));
+  ASSERT_TRUE(registry.SetString(kQvxKey, "DBChoice", "1"));
+  EXPECT_EQ(registry.ReadString(key, "PATH", Hive::LocalMachine), "C:\\msinfo32.exe");
+  EXPECT_FALSE(registry.KeyExists(key));  // not in the user's hive
+  EXPECT_FALSE(registry.KeyExists(kQvxKey, Hive::LocalMachine));
+  EXPECT_EQ(Slurp(folder.File("r.txt")).find("MSINFO"), std::string::npos);
+  EXPECT_NE(Slurp(folder.File("machine-registry.txt")).find("QVX registry 1\n"),
+            std::string::npos);  // the same format
+
+  // Through the registry calls, with the about box's access.
+  auto [opened, machineKey] = registry.OpenA(Hive::LocalMachine, key, kKeyAllAccessRead);
+  ASSERT_EQ(opened, kErrorSuccess);
+  std::string buffer(64, '\0');
+  uint32_t type = 0;
+  ASSERT_EQ(registry.QueryValueA(machineKey.get(), "path", type, buffer), kErrorSuccess);
+  EXPECT_EQ(type, kRegSz);
+  EXPECT_EQ(buffer, std::string("C:\\msinfo32.exe") + '\0');
+  std::string small(15, '\0');  // no room for the terminator
+  EXPECT_EQ(registry.QueryValueA(machineKey.get(), "PATH", type, small), kErrorMoreData);
+  EXPECT_EQ(registry.Open(Hive::CurrentUser, Utf8ToUtf16(key), kKeyRead).result,
+            kErrorFileNotFound);
+  EXPECT_EQ(registry.OpenHandles(), 1u);
+  machineKey.Reset();
+  EXPECT_EQ(registry.OpenHandles(), 0u);
+
+  // Another process sees the same machine file.
+  FileRegistry other(folder.File("r.txt"));
+  EXPECT_EQ(other.ReadString(key, "PATH", Hive::LocalMachine), "C:\\msinfo32.exe");
+}
+
+TEST(FileRegistry, KeysHandedOutCloseThemselves) {
+  TempFolder folder;
+  FileRegistry registry(folder.File("r.txt"));
+  {
+    const OpenedKey created = registry.Create(Hive::CurrentUser, u"Software\\Zenbrook\\QVX");
+    ASSERT_EQ(created.result, kErrorSuccess);
+    EXPECT_TRUE(created.key);
+    const OpenedKey absent = registry.Open(Hive::LocalMachine, u"SOFTWARE\\None", kKeyRead);
+    EXPECT_EQ(absent.result, kErrorFileNotFound);
+    EXPECT_FALSE(absent.key);  // nothing opened, nothing to close
+    EXPECT_EQ(registry.OpenHandles(), 1u);
+  }
+  EXPECT_EQ(registry.OpenHandles(), 0u);
+  OpenedKey moved = registry.Open(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead);
+  UniqueKey kept = std::move(moved.key);
+  EXPECT_FALSE(moved.key);
+  EXPECT_EQ(registry.OpenHandles(), 1u);
+  kept.Reset();
+  EXPECT_EQ(registry.OpenHandles(), 0u);
 }
 
 }  // namespace

@@ -21,21 +21,29 @@ class FaultyRegistry final : public platform::RegistryApi {
  public:
   explicit FaultyRegistry(platform::RegistryApi& inner) : inner_(inner) {}
   std::optional<long> create, set, open, query;
+  bool raiseOnQuery = false;
   int closes = 0;
 
-  long CreateKey(std::u16string_view k, Key& key) override {
-    return create ? *create : inner_.CreateKey(k, key);
+  long CreateKey(platform::Hive h, std::u16string_view k, Key& key) override {
+    return create ? *create : inner_.CreateKey(h, k, key);
   }
   long SetStringValue(Key key, std::u16string_view n, std::u16string_view d) override {
     return set ? *set : inner_.SetStringValue(key, n, d);
   }
-  long OpenKey(std::u16string_view k, uint32_t a, Key& key) override {
-    return open ? *open : inner_.OpenKey(k, a, key);
+  long OpenKey(platform::Hive h, std::u16string_view k, uint32_t a, Key& key) override {
+    return open ? *open : inner_.OpenKey(h, k, a, key);
+  }
+  long OpenKeyA(platform::Hive h, std::string_view k, uint32_t a, Key& key) override {
+    return inner_.OpenKeyA(h, k, a, key);
   }
   long QueryValueInfoA(Key key, std::string_view n, uint32_t& t, uint32_t& size) override {
     return inner_.QueryValueInfoA(key, n, t, size);
   }
+  long QueryValueA(Key key, std::string_view n, uint32_t& t, std::string& b) override {
+    return inner_.QueryValueA(key, n, t, b);
+  }
   long QueryValueW(Key key, std::u16string_view n, std::u16string& b) override {
+    if (raiseOnQuery) throw Failure::Runtime(err::kOutOfMemory);
     return query ? *query : inner_.QueryValueW(key, n, b);
   }
   long CloseKey(Key key) override {
@@ -93,7 +101,20 @@ TEST(RegistryEntry, NonStringValueRaisesWithItsType) {
   ASSERT_TRUE(f.registry.SetBinary(kQvxKey, "Blob", std::string("\x01\x02", 2)));
   EXPECT_EQ(Raised([&] { GetRegistrySetting(f.s, "QVX", "", "Blob", ""); }).number(),
             static_cast<int32_t>(0x800407D3));
-  EXPECT_TRUE(f.Reports().empty());  // raised to the caller, never reported here
+  EXPECT_TRUE(f.Reports().empty());         // raised to the caller, never reported here
+  EXPECT_EQ(f.registry.OpenHandles(), 0u);  // the key was closed on the way out
+}
+
+TEST(RegistryEntry, AFailingPlatformReadReachesTheCallerAndClosesTheKey) {
+  SettingsFixture base;
+  FaultyRegistry faulty(base.registry);
+  SettingsFixture f(&faulty);
+  ASSERT_TRUE(base.registry.SetString(kQvxKey, "Key", "stored"));
+  faulty.raiseOnQuery = true;
+  EXPECT_EQ(Raised([&] { GetRegistrySetting(f.s, "QVX", "", "Key", "dflt"); }).number(),
+            err::kOutOfMemory);
+  EXPECT_EQ(faulty.closes, 1);
+  EXPECT_EQ(base.registry.OpenHandles(), 0u);
 }
 
 TEST(RegistryEntry, BlankNamesRaiseOnReadAndWrite) {

@@ -1,14 +1,13 @@
 #include "harness/registry_keys.h"
 
 #include "harness/check.h"
+#include "platform/win32/win_handles.h"
 
 namespace qvx::winetest {
 
 bool KeyExists(const std::wstring& key, HKEY root) {
-  HKEY k = nullptr;
-  if (RegOpenKeyExW(root, key.c_str(), 0, KEY_READ, &k) != ERROR_SUCCESS) return false;
-  RegCloseKey(k);
-  return true;
+  win32::UniqueHkey k;
+  return RegOpenKeyExW(root, key.c_str(), 0, KEY_READ, k.Put()) == ERROR_SUCCESS;
 }
 
 std::optional<std::wstring> ReadText(const std::wstring& key, const std::wstring& name) {

@@ -1,0 +1,115 @@
+// The about box's registry read: a value of the machine hive, the key opened
+// with the about box's access and closed on every way out.
+#include "support/about_key_value.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+#include "platform/posix/file_registry.h"
+#include "unit/settings/settings_fixture.h"
+
+namespace qvx {
+namespace {
+
+using platform::Hive;
+using platform::RegistryApi;
+using testing::TempFolder;
+
+constexpr const char* kMsinfo = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
+
+// The file registry, recording the access asked for; a query can be made to
+// raise, as a platform call may.
+class WatchedRegistry final : public RegistryApi {
+ public:
+  explicit WatchedRegistry(platform::FileRegistry& inner) : inner_(inner) {}
+  std::optional<uint32_t> access;
+  std::optional<Hive> hive;
+  bool raiseOnQuery = false;
+
+  long CreateKey(Hive h, std::u16string_view k, Key& key) override {
+    return inner_.CreateKey(h, k, key);
+  }
+  long OpenKey(Hive h, std::u16string_view k, uint32_t a, Key& key) override {
+    return inner_.OpenKey(h, k, a, key);
+  }
+  long OpenKeyA(Hive h, std::string_view k, uint32_t a, Key& key) override {
+    hive = h;
+    access = a;
+    return inner_.OpenKeyA(h, k, a, key);
+  }
+  long SetStringValue(Key key, std::u16string_view n, std::u16string_view d) override {
+    return inner_.SetStringValue(key, n, d);
+  }
+  long QueryValueInfoA(Key key, std::string_view n, uint32_t& t, uint32_t& size) override {
+    return inner_.QueryValueInfoA(key, n, t, size);
+  }
+  long QueryValueA(Key key, std::string_view n, uint32_t& t, std::string& b) override {
+    if (raiseOnQuery) throw Failure::Runtime(err::kOutOfMemory);
+    return inner_.QueryValueA(key, n, t, b);
+  }
+  long QueryValueW(Key key, std::u16string_view n, std::u16string& b) override {
+    return inner_.QueryValueW(key, n, b);
+  }
+  long CloseKey(Key key) override { return inner_.CloseKey(key); }
+
+ private:
+  platform::FileRegistry& inner_;
+};
+
+struct AboutKeyValue : ::testing::Test {
+  TempFolder folder;
+  platform::FileRegistry files{folder.File("user.txt")};
+  WatchedRegistry registry{files};
+};
+
+TEST_F(AboutKeyValue, ReadsTheMachineHiveWithTheAboutBoxsAccess) {
+  ASSERT_TRUE(files.SetString(kMsinfo, "PATH", "C:\\Tools\\msinfo32.exe", Hive::LocalMachine));
+  std::string value = "before";
+  EXPECT_TRUE(fAbout::GetKeyValue(registry, Hive::LocalMachine, kMsinfo, "PATH", value));
+  EXPECT_EQ(value, "C:\\Tools\\msinfo32.exe");
+  EXPECT_EQ(registry.hive, Hive::LocalMachine);
+  EXPECT_EQ(registry.access, 0x2003Fu);
+  EXPECT_EQ(files.OpenHandles(), 0u);
+}
+
+TEST_F(AboutKeyValue, EachWayOutClosesTheKey) {
+  ASSERT_TRUE(files.SetString(kMsinfo, "PATH", "C:\\x.exe", Hive::CurrentUser));  // wrong hive
+  ASSERT_TRUE(files.SetString(kMsinfo, "LONG", std::string(1024, 'x'), Hive::LocalMachine));
+  ASSERT_TRUE(files.SetString(kMsinfo, "FITS", std::string(1023, 'x'), Hive::LocalMachine));
+  ASSERT_TRUE(files.SetDword(kMsinfo, "FLAG", 7, Hive::LocalMachine));
+  const struct {
+    const char* why;
+    const char* key;
+    const char* name;
+    bool found;
+    const char* value;  // what the out value holds afterwards
+  } rows[] = {
+      {"no key in the machine hive", "SOFTWARE\\Other", "PATH", false, ""},
+      {"no such value", kMsinfo, "PATH", false, "before"},
+      {"longer than the buffer with its terminator", kMsinfo, "LONG", false, "before"},
+      {"a DWORD read as bytes, cut at the first NUL", kMsinfo, "FLAG", true, "\x07"},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.why);
+    std::string value = "before";
+    EXPECT_EQ(fAbout::GetKeyValue(registry, Hive::LocalMachine, row.key, row.name, value),
+              row.found);
+    EXPECT_EQ(value, row.value);
+    EXPECT_EQ(files.OpenHandles(), 0u);
+  }
+  std::string value;
+  EXPECT_TRUE(fAbout::GetKeyValue(registry, Hive::LocalMachine, kMsinfo, "FITS", value));
+  EXPECT_EQ(value.size(), 1023u);
+}
+
+TEST_F(AboutKeyValue, ARaisingReadStillClosesTheKey) {
+  ASSERT_TRUE(files.SetString(kMsinfo, "PATH", "C:\\x.exe", Hive::LocalMachine));
+  registry.raiseOnQuery = true;
+  std::string value;
+  EXPECT_THROW(fAbout::GetKeyValue(registry, Hive::LocalMachine, kMsinfo, "PATH", value), Failure);
+  EXPECT_EQ(files.OpenHandles(), 0u);
+}
+
+}  // namespace
+}  // namespace qvx
