@@ -3,7 +3,7 @@
 // start of a recurring occurrence in it. Each test runs in a second test host
 // under its locale (harness/user_locale.h), with the add-in's logic in that
 // process over the Windows platform and a simulated host.
-#include <windows.h>
+#include "platform/win32/win32_api.h"
 
 #include <cmath>
 #include <memory>

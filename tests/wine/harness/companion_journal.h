@@ -15,7 +15,8 @@
 
 namespace qvx::winetest {
 
-// Points the variable at a journal in the temporary folder.
+// Points the variable at a journal in the temporary folder, and puts this
+// program in a job that its launches join, so that none is missed.
 void SetUpJournal();
 // Empties the journal before a test.
 void ClearJournal();
