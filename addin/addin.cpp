@@ -2,6 +2,7 @@
 
 #include "addin/main_module.h"
 #include "addin/upward_calls.h"
+#include "ribbon/custom_ui.h"
 
 namespace qvx {
 
@@ -52,8 +53,8 @@ void QVXClientAddin::Terminate() noexcept {
   subKillObjects(*state_);
 }
 
-std::string QVXClientAddin::GetCustomUI(std::string_view) noexcept {
-  return {};
+std::string QVXClientAddin::GetCustomUI(std::string_view ribbonId) noexcept {
+  return IRibbonExtensibility_GetCustomUI(*state_, ribbonId);
 }
 
 CallbackOutcome QVXClientAddin::InvokeCallback(std::string_view name, std::vector<Variant>& args,

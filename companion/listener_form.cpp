@@ -3,6 +3,7 @@
 #include "companion/companion_launch.h"
 #include "companion/message_names.h"
 #include "companion/section_codes.h"
+#include "platform/resources.h"
 #include "settings/my_settings.h"
 #include "state/addin_state.h"
 
@@ -41,6 +42,22 @@ void ListenerForm::Load() {
     line = 20;
     if (!window_) throw Failure(err::kInternalError, "QVXClient", "Could not create the window");
   });
+}
+
+Object ListenerForm::LoadedPicture(Object& picture, std::string_view resource) {
+  if (picture.IsNothing()) {
+    if (!s_.platform.resources) throw platform::ResourceNotFound();
+    picture = platform::LoadResPicture(*s_.platform.resources, resource);
+  }
+  return picture;
+}
+
+Object ListenerForm::picReport() {
+  return LoadedPicture(picReport_, "REPORT");
+}
+
+Object ListenerForm::picWithdraw() {
+  return LoadedPicture(picWithdraw_, "WITHDRAW");
 }
 
 bool ListenerForm::Unload() noexcept {

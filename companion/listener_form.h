@@ -12,7 +12,9 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 
+#include "core/object.h"
 #include "platform/message_windows.h"
 #include "state/loaded_form.h"
 
@@ -37,12 +39,21 @@ class ListenerForm final : public LoadedForm {
   // Stores the value and acts on it as the channel's table says.
   void subPassWMToken(int32_t& lngValue) noexcept;
 
+  // The pictures of its two image controls, the ribbon's own "Report" and
+  // "Withdraw" images, loaded from the resources on first use.
+  Object picReport();
+  Object picWithdraw();
+
   int32_t iCurrentWindowMessage = 0;
 
  private:
+  Object LoadedPicture(Object& picture, std::string_view resource);
+
   AddinState& s_;
   Channel channel_;
   std::unique_ptr<platform::ListenerWindow> window_;
+  Object picReport_;
+  Object picWithdraw_;
 };
 
 // The identifier of a channel's registered message; registered on first use.

@@ -4,18 +4,81 @@
 #include <new>
 
 #include "core/text.h"
+#include "ribbon/drop_down_callbacks.h"
+#include "ribbon/execute_action.h"
+#include "ribbon/ribbon_images.h"
+#include "ribbon/state_callbacks.h"
 #include "state/addin_state.h"
 
 namespace qvx {
 namespace {
 
-void OnLoadCallback(AddinState& s, std::vector<Variant>& args, Variant&) {
+using Args = std::vector<Variant>;
+
+void OnLoadCallback(AddinState& s, Args& args, Variant&) {
   OnLoad(s, args[0].ToObject());
 }
 
-// Later callbacks join here, one row each.
+// A getter of the control alone, answering a boolean.
+template <bool (*Getter)(AddinState&, const Variant&)>
+void Flag(AddinState& s, Args& args, Variant& result) {
+  result = Variant(Getter(s, args[0]));
+}
+
+template <int Field>
+void CustomFieldVisibility(AddinState& s, Args&, Variant& result) {
+  result = Variant(GetCustomFieldVisibility(s, Field));
+}
+
+template <int Field>
+void CustomFieldVisibilityInspector(AddinState& s, Args& args, Variant& result) {
+  result = Variant(GetCustomFieldVisibilityInspector(s, args[0], Field));
+}
+
 constexpr std::array kCallbacks = {
     RibbonCallback{"OnLoad", 1, &OnLoadCallback},
+    RibbonCallback{"getImages", 1,
+                   [](AddinState& s, Args& args, Variant& result) {
+                     result = Variant(getImages(s, args[0].ToText()));
+                   }},
+    RibbonCallback{
+        "getLabel", 1,
+        [](AddinState& s, Args& args, Variant& result) { result = Variant(getLabel(s, args[0])); }},
+    RibbonCallback{"GetVisible", 1, &Flag<GetVisible>},
+    RibbonCallback{"GetEnabled", 1, &Flag<GetEnabled>},
+    RibbonCallback{"GetGroupVisibility", 1, &Flag<GetGroupVisibility>},
+    RibbonCallback{"ShowCustomFields", 1, &Flag<ShowCustomFields>},
+    RibbonCallback{"GetReportButtonVisible", 1, &Flag<GetReportButtonVisible>},
+    RibbonCallback{"GetWithdrawButtonVisible", 1, &Flag<GetWithdrawButtonVisible>},
+    RibbonCallback{"GetReportButtonVisibleInspector", 1, &Flag<GetReportButtonVisibleInspector>},
+    RibbonCallback{"GetWithdrawButtonVisibleInspector", 1,
+                   &Flag<GetWithdrawButtonVisibleInspector>},
+    RibbonCallback{"GetCustomField1Visibility", 1, &CustomFieldVisibility<1>},
+    RibbonCallback{"GetCustomField2Visibility", 1, &CustomFieldVisibility<2>},
+    RibbonCallback{"GetCustomField3Visibility", 1, &CustomFieldVisibility<3>},
+    RibbonCallback{"GetCustomField4Visibility", 1, &CustomFieldVisibility<4>},
+    RibbonCallback{"GetCustomField1VisibilityInspector", 1, &CustomFieldVisibilityInspector<1>},
+    RibbonCallback{"GetCustomField2VisibilityInspector", 1, &CustomFieldVisibilityInspector<2>},
+    RibbonCallback{"GetCustomField3VisibilityInspector", 1, &CustomFieldVisibilityInspector<3>},
+    RibbonCallback{"GetCustomField4VisibilityInspector", 1, &CustomFieldVisibilityInspector<4>},
+    RibbonCallback{"GetItemCount", 1,
+                   [](AddinState& s, Args& args, Variant& result) {
+                     result = Variant(GetItemCount(s, args[0]));
+                   }},
+    RibbonCallback{"GetItemLabel", 2,
+                   [](AddinState& s, Args& args, Variant& result) {
+                     result = Variant(GetItemLabel(s, args[0], args[1].ToInteger()));
+                   }},
+    RibbonCallback{"GetSelectedItemIndex", 1,
+                   [](AddinState& s, Args& args, Variant& result) {
+                     result = Variant(GetSelectedItemIndex(s, args[0]));
+                   }},
+    RibbonCallback{"OnActionDropDown", 3,
+                   [](AddinState& s, Args& args, Variant&) {
+                     OnActionDropDown(s, args[0], args[1].ToText(), args[2].ToInteger());
+                   }},
+    RibbonCallback{"SubExecuteAction", 1,
+                   [](AddinState& s, Args& args, Variant&) { SubExecuteAction(s, args[0]); }},
 };
 
 }  // namespace

@@ -41,7 +41,8 @@ CallbackOutcome InvokeRibbonCallback(AddinState& s, std::string_view name,
                                      std::vector<Variant>& args, Variant& result,
                                      std::optional<Failure>& failure) noexcept;
 
-// OnLoad: the host hands over its ribbon, kept for invalidation.
+// OnLoad: the host hands over its ribbon, kept for invalidation; the last
+// ribbon to load receives every later invalidation.
 void OnLoad(AddinState& s, const Object& ribbon);
 
 }  // namespace qvx

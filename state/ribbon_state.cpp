@@ -125,6 +125,9 @@ InspectorRibbonPools& RibbonState::Inspector(std::string_view entryId) {
 const InspectorRibbonPools* RibbonState::FindInspector(std::string_view entryId) const {
   return inspectors.Find(entryId);
 }
+InspectorRibbonPools* RibbonState::FindInspector(std::string_view entryId) {
+  return inspectors.Find(entryId);
+}
 void RibbonState::DropInspector(std::string_view entryId) {
   inspectors.Remove(entryId);
 }

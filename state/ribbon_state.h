@@ -113,6 +113,7 @@ struct RibbonState {
   InspectorRibbonPools& Inspector(std::string_view entryId);
   // The pools of `entryId`, or nullptr if it has none.
   const InspectorRibbonPools* FindInspector(std::string_view entryId) const;
+  InspectorRibbonPools* FindInspector(std::string_view entryId);
   // Forgets the pools of `entryId` (its inspector has closed).
   void DropInspector(std::string_view entryId);
 };

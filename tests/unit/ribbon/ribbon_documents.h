@@ -1,0 +1,24 @@
+// Every customUI document the add-in can give a host: each ribbon id it
+// answers, with no settings, with default settings and with all custom
+// fields active, on hosts of major version 12, 14 and 16.
+//
+//   for (const RibbonDocument& d : EveryRibbonDocument()) Validate(d.markup);
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace qvx::testing {
+
+struct RibbonDocument {
+  std::string name;      // "all-fields-16-Microsoft.Outlook.Explorer", a file name
+  std::string ribbonId;  // as the host asks
+  std::string markup;    // GetCustomUI's answer; "" for none
+};
+
+// The ribbon ids the add-in answers.
+const std::vector<std::string>& AnsweredRibbonIds();
+
+std::vector<RibbonDocument> EveryRibbonDocument();
+
+}  // namespace qvx::testing

@@ -1,0 +1,91 @@
+// Helpers of the ribbon's tests: an add-in connected to a simulated host of a
+// chosen version, and what the central reporter was given.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "apps/qvx-sim/world.h"
+#include "core/dates.h"
+#include "sim/fake_object.h"
+#include "sim/appointment.h"
+#include "sim/inspector.h"
+#include "sim/item.h"
+#include "sim/ribbon/ribbon_markup.h"
+
+namespace qvx::testing {
+
+// A world whose add-in is connected (settings read) to a host of `version`.
+inline void ConnectAddin(scenario::World& world, const char* version = "16.0.0.0") {
+  world.host().SetVersion(version);
+  world.addin().OnConnection(world.host().Application(), 1, Object());
+}
+
+// The add-in connected and started (its sinks exist, so inspectors' pools
+// are reachable).
+inline void StartAddin(scenario::World& world, const char* version = "16.0.0.0") {
+  ConnectAddin(world, version);
+  world.addin().OnStartupComplete();
+}
+
+// An inspector on a saved appointment of that subject, with the pools its
+// toolbar objects would hold.
+inline Object OpenInspectorWithPools(scenario::World& world, std::string subject) {
+  auto item = world.host().AddAppointment(std::move(subject), DateSerial(2026, 3, 2),
+                                          DateSerial(2026, 3, 3));
+  item->Save();
+  world.addin().state().ribbon.Inspector(item->EntryId());
+  return world.host().OpenInspector(item)->AsObject();
+}
+
+// The pools of the inspector's item.
+inline InspectorRibbonPools& PoolsOf(scenario::World& world, const Object& inspector) {
+  const std::string id = inspector.Get("CurrentItem").ToObject().Get("EntryID").ToText();
+  return world.addin().state().ribbon.Inspector(id);
+}
+
+// An IRibbonControl as the host passes it.
+inline Variant MakeControl(std::string_view id, const Object& context = Object(),
+                           std::string_view tag = "") {
+  auto control = std::make_shared<sim::FakeObject>("IRibbonControl");
+  control->ReadOnly("Id", Variant(id))
+      .ReadOnly("Context", context.IsNothing() ? Variant() : Variant(context))
+      .ReadOnly("Tag", Variant(tag));
+  return control->AsVariant();
+}
+
+// The answer of callback `name` for `control` (and further arguments); a
+// test failure when the callback does not run to its end.
+inline Variant CallbackAnswer(scenario::World& world, std::string_view name, Variant control,
+                              std::vector<Variant> more = {}) {
+  std::vector<Variant> args{std::move(control)};
+  for (Variant& v : more) args.push_back(std::move(v));
+  Variant result;
+  std::optional<Failure> failure;
+  EXPECT_EQ(world.addin().InvokeCallback(name, args, result, failure), CallbackOutcome::Done)
+      << name;
+  return result;
+}
+
+// The text of every error report shown so far.
+inline std::vector<std::string> ErrorReports(scenario::World& world) {
+  std::vector<std::string> reports;
+  for (const platform::FormRecord& form : world.ui().Forms()) {
+    for (const platform::FormControl& c : form.controls) {
+      if (c.name == "txtReport") reports.push_back(c.text);
+    }
+  }
+  return reports;
+}
+
+// Every id of the tree, in document order.
+inline void CollectIds(const sim::MarkupElement& e, std::vector<std::string>& ids) {
+  if (const std::string* id = e.Attribute("id")) ids.push_back(*id);
+  for (const sim::MarkupElement& child : e.children) CollectIds(child, ids);
+}
+
+}  // namespace qvx::testing
