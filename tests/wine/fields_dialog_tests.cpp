@@ -28,6 +28,12 @@ void WriteFieldsSettings(const wchar_t* dontAllowChanges) {
                  {L"DontAllowChangesToReportedItem", dontAllowChanges}});
 }
 
+// The test plays the user itself: the watcher leaves the dialog alone.
+void LeaveToTheTest(frmFields& form) {
+  CHECK_EQ(form.Caption(), std::string("All Project Fields"));
+  form.SetCaption("Test: " + form.Caption());
+}
+
 std::string Property(sim::SimItem& item, std::string_view name) {
   auto property = item.UserProperties().Find(name);
   return property ? property->value().ToText() : std::string("(none)");
@@ -42,9 +48,10 @@ WINE_TEST(FieldsDialog, OpensAsAWindowAndSaveWritesWhatWasTyped) {
   item->UserProperties().Set("ProjectValue", kText, Variant("Alpha"));
   frmFields form(local.s);
   form.LoadFields(item->AsObject());
+  LeaveToTheTest(form);
   const bool closedItself = ShowAndDrive(
       form, {[&](HWND dialog) {
-               CHECK(TextOf(dialog) == L"All Project Fields");
+               CHECK(TextOf(dialog) == L"Test: All Project Fields");
                CHECK(TextOf(ControlOf(dialog, form, "txtReportedID")) == L"Not Reported Yet!");
                CHECK(TextOf(ControlOf(dialog, form, "lblField9")) == L"Hours");
                CHECK(TextOf(ControlOf(dialog, form, "cboProject")) == L"Alpha");
@@ -75,6 +82,7 @@ WINE_TEST(FieldsDialog, CancelClosesWithoutWriting) {
   auto item = local.host.AddAppointment("Planning", DateSerial(2026, 3, 2), DateSerial(2026, 3, 3));
   frmFields form(local.s);
   form.LoadFields(item->AsObject());
+  LeaveToTheTest(form);
   const bool closedItself = ShowAndDrive(
       form, {[&](HWND dialog) {
                HWND hours = ControlOf(dialog, form, "txtField9");
@@ -95,6 +103,7 @@ WINE_TEST(FieldsDialog, AReportedItemUnderTheFlagOnlyShowsAndExitCloses) {
   item->UserProperties().Set("ReportedID", kText, Variant("4711"));
   frmFields form(local.s);
   form.LoadFields(item->AsObject());
+  LeaveToTheTest(form);
   const bool closedItself =
       ShowAndDrive(form, {[&](HWND dialog) {
                      CHECK(TextOf(ControlOf(dialog, form, "txtReportedID")) == L"4711");
