@@ -34,6 +34,8 @@ void RegisterRibbonVerbs(VerbTable& table);
 void RegisterRibbonUserVerbs(VerbTable& table);
 void RegisterRibbonStandInVerbs(VerbTable& table);
 void RegisterBarVerbs(VerbTable& table);
+void RegisterWindowVerbs(VerbTable& table);
+void RegisterFieldsVerbs(VerbTable& table);
 
 // The first item with this subject in the active explorer's folder, else in
 // any folder; a usage error when there is none.
