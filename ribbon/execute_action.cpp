@@ -6,6 +6,7 @@
 #include "companion/companion_launch.h"
 #include "companion/section_codes.h"
 #include "platform/user_interface.h"
+#include "reporting/fields_form.h"
 #include "reporting/report_items.h"
 #include "reporting/withdraw_report.h"
 #include "ribbon/ribbon_contexts.h"
@@ -47,6 +48,8 @@ void SubExecuteAction(AddinState& s, const Variant& control) noexcept {
       subLoadSection(s, companion::kSectionSyncProjectSettings);
     } else if (IsWithdraw(id)) {
       WithdrawReportFromDB(s);
+    } else if (IsFamily(id, "cmdStaticFields")) {
+      ShowStaticFields(s);
     } else if (id == "cmdMyProjectsTasks") {
       subLoadSection(s, companion::kSectionMyProjectsTasks);
     } else if (id == "cmdMyLocalSettings") {

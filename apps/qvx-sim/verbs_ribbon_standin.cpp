@@ -3,11 +3,14 @@
 // has markup and callbacks of its own. These verbs reach past the user's
 // side: they stand in for the add-in.
 #include <string>
+#include <utility>
+#include <variant>
 #include <vector>
 
 #include "apps/qvx-sim/verbs.h"
 #include "apps/qvx-sim/world.h"
 #include "sim/ribbon/scripted_ribbon_addin.h"
+#include "state/ribbon_state.h"
 
 namespace qvx::scenario {
 namespace {
@@ -44,9 +47,57 @@ sim::ScriptedRibbonAddin::Callback Answering(std::vector<Variant> values, std::s
   };
 }
 
+// The explorer ribbon value of that name, text or flag.
+std::variant<std::string*, bool*> ExplorerValue(ExplorerRibbonValues& v, const std::string& name) {
+  const std::pair<const char*, std::variant<std::string*, bool*>> values[] = {
+      {"COMMON_CONTROLS_VISIBLE", &v.COMMON_CONTROLS_VISIBLE},
+      {"CUSTOM_FIELDS_VISIBLE", &v.CUSTOM_FIELDS_VISIBLE},
+      {"GROUP_CALENDAR_VISIBLE", &v.GROUP_CALENDAR_VISIBLE},
+      {"GROUP_TASK_VISIBLE", &v.GROUP_TASK_VISIBLE},
+      {"SELECTED_PROJECT_VALUE", &v.SELECTED_PROJECT_VALUE},
+      {"SELECTED_ACTIVITY_VALUE", &v.SELECTED_ACTIVITY_VALUE},
+      {"SELECTED_CUSTOM_FIELD1_VALUE", &v.SELECTED_CUSTOM_FIELD1_VALUE},
+      {"SELECTED_CUSTOM_FIELD2_VALUE", &v.SELECTED_CUSTOM_FIELD2_VALUE},
+      {"SELECTED_CUSTOM_FIELD3_VALUE", &v.SELECTED_CUSTOM_FIELD3_VALUE},
+      {"SELECTED_CUSTOM_FIELD4_VALUE", &v.SELECTED_CUSTOM_FIELD4_VALUE},
+      {"PROJECT_ENABLED", &v.PROJECT_ENABLED},
+      {"ACTIVITY_ENABLED", &v.ACTIVITY_ENABLED},
+      {"CUSTOM_FIELD1_ENABLED", &v.CUSTOM_FIELD1_ENABLED},
+      {"CUSTOM_FIELD2_ENABLED", &v.CUSTOM_FIELD2_ENABLED},
+      {"CUSTOM_FIELD3_ENABLED", &v.CUSTOM_FIELD3_ENABLED},
+      {"CUSTOM_FIELD4_ENABLED", &v.CUSTOM_FIELD4_ENABLED},
+      {"blnCustomField1Visible", &v.blnCustomField1Visible},
+      {"blnCustomField2Visible", &v.blnCustomField2Visible},
+      {"blnCustomField3Visible", &v.blnCustomField3Visible},
+      {"blnCustomField4Visible", &v.blnCustomField4Visible},
+      {"REPORT_BUTTON_VISIBLE", &v.REPORT_BUTTON_VISIBLE},
+      {"WITHDRAW_BUTTON_VISIBLE", &v.WITHDRAW_BUTTON_VISIBLE},
+      {"REPORT_BUTTON_CAPTION", &v.REPORT_BUTTON_CAPTION},
+      {"WITHDRAW_BUTTON_CAPTION", &v.WITHDRAW_BUTTON_CAPTION},
+  };
+  for (const auto& [known, value] : values) {
+    if (name == known) return value;
+  }
+  throw UsageError("no explorer ribbon value " + name);
+}
+
 }  // namespace
 
 void RegisterRibbonStandInVerbs(VerbTable& table) {
+  table.Add("ribbon copy", "ribbon copy NAME VALUE",
+            "stands in for the command bars: sets the explorer ribbon value NAME "
+            "(GROUP_CALENDAR_VISIBLE, PROJECT_ENABLED, REPORT_BUTTON_CAPTION ...) to VALUE, "
+            "true/false for a flag, text otherwise",
+            [](World& w, const Args& a) {
+              a.Expect(2);
+              auto value = ExplorerValue(w.addin().state().ribbon.explorer, a.At(0));
+              if (auto* text = std::get_if<std::string*>(&value)) {
+                **text = a.At(1);
+              } else {
+                a.Choice(1, {"true", "false"});
+                *std::get<bool*>(value) = a.At(1) == "true";
+              }
+            });
   table.Add("ribbon markup", "ribbon markup RIBBONID TEXT",
             "stands in for the add-in: GetCustomUI answers TEXT for RIBBONID",
             [](World& w, const Args& a) {
