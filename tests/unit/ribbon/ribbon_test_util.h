@@ -11,8 +11,8 @@
 
 #include "apps/qvx-sim/world.h"
 #include "core/dates.h"
-#include "sim/fake_object.h"
 #include "sim/appointment.h"
+#include "sim/fake_object.h"
 #include "sim/inspector.h"
 #include "sim/item.h"
 #include "sim/ribbon/ribbon_markup.h"
