@@ -26,11 +26,15 @@ class UpwardCalls {
                            std::string_view label, bool allowDirectSend) noexcept;
   // The tear-down of everything, in its fixed order (addin/main_module.h).
   virtual void subKillObjects();
+  // Tears down when no explorer is left (addin/main_module.h).
+  virtual void subShutDownOutlook();
   // Refreshes the bars of every explorer and the active inspector, if the
   // explorers' sink exists.
   virtual void UpdateAllDisplayedToolbars() noexcept;
   // Makes the host call every ribbon callback again.
   virtual void subInvalidateRibbon() noexcept;
+  // The same, for the custom field drop-downs only.
+  virtual void subInvalidateCustomFieldControls() noexcept;
   // Copies the projects' colours into the host's category list.
   virtual void LoadProjectColorCodesToOutlook() noexcept;
 };

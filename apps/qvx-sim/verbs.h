@@ -34,6 +34,8 @@ void RegisterRibbonVerbs(VerbTable& table);
 void RegisterRibbonUserVerbs(VerbTable& table);
 void RegisterRibbonStandInVerbs(VerbTable& table);
 void RegisterBarVerbs(VerbTable& table);
+// Called by RegisterBarVerbs: the copies of the bars' state for the explorer ribbon.
+void RegisterBarValueVerbs(VerbTable& table);
 
 // The first item with this subject in the active explorer's folder, else in
 // any folder; a usage error when there is none.
