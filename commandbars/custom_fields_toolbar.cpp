@@ -246,6 +246,7 @@ void cCustomFieldsTB::EmptyAll() noexcept {
 
 void cCustomFieldsTB::UpdateToolbar() noexcept {
   AddinState& s = s_;
+  ++toolbarUpdates;
   Trapped(s, "CustomFieldsToolbar.UpdateToolbar", [&](Line& line) {
     const cMySettings& settings = s.main.Settings();
     line = 10;

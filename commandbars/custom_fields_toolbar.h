@@ -57,6 +57,7 @@ class cCustomFieldsTB : public std::enable_shared_from_this<cCustomFieldsTB> {
   EventField<cCustomFieldsTB> oueCurrExplorer;
   EventField<cCustomFieldsTB> oueCurrInspector;
   EventField<cCustomFieldsTB> ouaMonitorApp;
+  int toolbarUpdates = 0;  // how often UpdateToolbar ran, shown by scenarios
 
  private:
   // Field 1 to 4.

@@ -24,15 +24,10 @@ cExplorerClient::cExplorerClient(AddinState& s)
       "Deactivate", "ExplorerClient.Deactivate",
       [](cExplorerClient& self, Line&, EventArgs&) { self.objLastSelected.Release(); });
   oueCurrExplorer.On("Close", "ExplorerClient.Close", [](cExplorerClient& self, Line&, EventArgs&) {
-    AddinState& s = self.s_;
-    IgnoreFailure(s.err, [&] {
-      if (s.main.colExplorerClients) s.main.colExplorerClients->Remove(self.strRemoveTag);
-    });
-    s.upward().subShutDownOutlook();
+    self.oueCurrExplorer_Close();
   });
-  ouaMonitorApp.On("Quit", "ExplorerClient.Quit", [](cExplorerClient& self, Line&, EventArgs&) {
-    self.s_.upward().subKillObjects();
-  });
+  ouaMonitorApp.On("Quit", "ExplorerClient.Quit",
+                   [](cExplorerClient& self, Line&, EventArgs&) { self.ouaMonitorApp_Quit(); });
 }
 
 cExplorerClient::~cExplorerClient() {
@@ -121,6 +116,7 @@ void cExplorerClient::subTrackRequiredFolder() noexcept {
 
 void cExplorerClient::UpdateToolbars() noexcept {
   AddinState& s = s_;
+  ++toolbarUpdates;
   Trapped(s, "ExplorerClient.UpdateToolbars", [&](Line& line) {
     line = 10;
     s.ribbon.explorer.CUSTOM_FIELDS_VISIBLE = false;
@@ -199,6 +195,19 @@ void cExplorerClient::oueCurrExplorer_SelectionChange() {
     x.REPORT_BUTTON_VISIBLE = x.WITHDRAW_BUTTON_VISIBLE = false;
   }
   s.upward().subInvalidateRibbon();
+}
+
+// Leaving the collection ends this client; its handler keeps it alive until
+// the tear-down below has run.
+void cExplorerClient::oueCurrExplorer_Close() {
+  Quietly(s_.err, [&] {
+    if (s_.main.colExplorerClients) s_.main.colExplorerClients->Remove(strRemoveTag);
+  });
+  s_.upward().subShutDownOutlook();
+}
+
+void cExplorerClient::ouaMonitorApp_Quit() {
+  s_.upward().subKillObjects();
 }
 
 }  // namespace qvx

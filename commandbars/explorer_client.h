@@ -60,6 +60,7 @@ class cExplorerClient : public std::enable_shared_from_this<cExplorerClient> {
   bool blnToolbarsLoaded = false;
   // The first selected item at the last selection change; compared by EntryID.
   Object objLastSelected;
+  int toolbarUpdates = 0;  // how often UpdateToolbars ran, shown by scenarios
 
  private:
   void DeclareMenuHandlers(AddinState& s);
@@ -70,6 +71,8 @@ class cExplorerClient : public std::enable_shared_from_this<cExplorerClient> {
   void AddCustomFieldsToolbar();
   bool WantsCustomFieldsToolbar();
   void oueCurrExplorer_SelectionChange();
+  void oueCurrExplorer_Close();
+  void ouaMonitorApp_Quit();
 
   AddinState& s_;
   // The menu and its twelve entries, from the top; the entries are empty

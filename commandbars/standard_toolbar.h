@@ -67,6 +67,7 @@ class cStandardTB : public std::enable_shared_from_this<cStandardTB> {
   EventField<cStandardTB> oueCurrInspector;
   EventField<cStandardTB> ouaMonitorApp;
   EventField<cStandardTB> ouiItems;
+  int toolbarUpdates = 0;  // how often UpdateToolbar ran, shown by scenarios
 
  private:
   void AddControls(Line& line, const Object& controls);

@@ -161,6 +161,7 @@ void cStandardTB::DisableWithdrawReportButton() noexcept {
 
 void cStandardTB::UpdateToolbar() noexcept {
   AddinState& s = s_;
+  ++toolbarUpdates;
   Trapped(s, "ProjectToolbar.UpdateToolbar", [&](Line& line) {
     const cMySettings& settings = s.main.Settings();
     line = 10;

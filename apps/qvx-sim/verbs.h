@@ -36,6 +36,8 @@ void RegisterRibbonStandInVerbs(VerbTable& table);
 void RegisterBarVerbs(VerbTable& table);
 // Called by RegisterBarVerbs: the copies of the bars' state for the explorer ribbon.
 void RegisterBarValueVerbs(VerbTable& table);
+void RegisterWindowVerbs(VerbTable& table);
+void RegisterFieldsVerbs(VerbTable& table);
 
 // The first item with this subject in the active explorer's folder, else in
 // any folder; a usage error when there is none.
