@@ -13,7 +13,7 @@ cSingleList& Required(const std::shared_ptr<cSingleList>& list) {
 
 }  // namespace
 
-cSingleList& ProjectList(AddinState& s) {
+cSingleList& DropDownProjectList(AddinState& s) {
   return Required(s.main.Settings().Projects);
 }
 

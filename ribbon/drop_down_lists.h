@@ -6,7 +6,7 @@
 // list the settings lack (no settings, projects not read yet) fails as the
 // use of a missing object does (91).
 //
-//   cSingleList& projects = ProjectList(s);
+//   cSingleList& projects = DropDownProjectList(s);
 //   if (auto activities = FindActivities(s, project)) n = activities->dicList.Count();
 #pragma once
 
@@ -19,7 +19,7 @@ class AddinState;
 class cSingleList;
 class cTasksPerProject;
 
-cSingleList& ProjectList(AddinState& s);
+cSingleList& DropDownProjectList(AddinState& s);
 // Custom field list 1 to 4.
 cSingleList& CustomFieldList(AddinState& s, int field);
 // The activities of `project` (case-blind), or nullptr; never fails, and
