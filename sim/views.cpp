@@ -6,6 +6,7 @@
 #include "sim/application.h"
 #include "sim/collection.h"
 #include "sim/folder.h"
+#include "sim/view_document.h"
 
 namespace qvx::sim {
 
@@ -38,7 +39,7 @@ const MemberTable& SimView::Members() const {
             "XML", [](SimView& v) { return Variant(v.xml_); },
             [](SimView& v, const Variant& x) {
               std::string text = x.ToText();
-              if (InStrText(text, "<view") == 0) {
+              if (!ParseViewDocument(text)) {
                 throw HostFailure(hresult::kFail, "The operation failed.");
               }
               v.xml_ = std::move(text);
