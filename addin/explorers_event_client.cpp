@@ -35,8 +35,8 @@ void cExplorersEventClient::LoadSupportCallsMenu(bool& blnAddButtons) noexcept {
     AddinState& s = s_;
     line = 10;
     auto client = std::make_shared<cExplorerClient>(s);
-    client->oueCurrExplorer = oueCurrExplorer;
-    client->ouaMonitorApp = s.main.objOutlook;
+    client->oueCurrExplorer.Set(oueCurrExplorer);
+    client->ouaMonitorApp.Set(s.main.objOutlook);
     line = 20;
     client->subTrackRequiredFolder();
     line = 30;

@@ -1,25 +1,38 @@
 // cInspectors: follows the host's Inspectors collection and keeps the bars of
-// each open inspector of a supported item, keyed by the item's EntryID.
-// The bars themselves arrive with the command-bar interface.
+// each open inspector of a supported item, keyed by the item's EntryID (an
+// unsaved item's empty EntryID is one key for all of them). A second
+// inspector on the same item replaces the first one's entry. Nothing here
+// removes an entry when an inspector closes; the bars do that themselves.
 // Held by a shared_ptr (objInspectorsClient), so that its sinks keep it alive.
+//
+//   auto client = std::make_shared<cInspectors>(s);
+//   client->ouisInspectors.Set(s.main.objOutlook.Get("Inspectors").ToObject());
+//   client->UpdateToolbarsOf(entryId);   // after an outside change
 #pragma once
 
 #include <memory>
 #include <string>
 
 #include "core/event_field.h"
+#include "core/ordered_dictionary.h"
 
 namespace qvx {
 
 class AddinState;
+class cStandardTB;
+class cCustomFieldsTB;
 
 class cInspectors : public std::enable_shared_from_this<cInspectors> {
  public:
   explicit cInspectors(AddinState& s);
+  ~cInspectors();
 
-  // Refreshes the bars of the inspectors that show the item with this EntryID.
+  // Refreshes the bars entered under this EntryID, once for every entry of
+  // their dictionary and every open inspector on that item: repeats do no harm.
   void UpdateToolbarsOf(const std::string& entryId) noexcept;
 
+  std::unique_ptr<OrderedDictionary<std::shared_ptr<cStandardTB>>> colInspectorsTB;
+  std::unique_ptr<OrderedDictionary<std::shared_ptr<cCustomFieldsTB>>> colInspectorsCustomFieldsTB;
   // The host's Inspectors; NewInspector arrives once it is set.
   EventField<cInspectors> ouisInspectors;
 

@@ -21,6 +21,7 @@ class AddinUpwardCalls final : public UpwardCalls {
     qvx::ReportError(s_, description, number, line, label, allowDirectSend);
   }
   void subKillObjects() override { qvx::subKillObjects(s_); }
+  void subShutDownOutlook() override { qvx::subShutDownOutlook(s_); }
   void UpdateAllDisplayedToolbars() noexcept override {
     if (s_.main.objExplorersClient) s_.main.objExplorersClient->UpdateAllDisplayedToolbars();
   }

@@ -60,13 +60,14 @@ void SimApplication::ForgetWindow(const SimWindow& window) {
   });
 }
 
+void SimApplication::WindowClosing(const SimWindow& window) {
+  if (auto* explorer = dynamic_cast<const SimExplorer*>(&window)) explorers_->Remove(*explorer);
+  if (auto* inspector = dynamic_cast<const SimInspector*>(&window)) inspectors_->Remove(*inspector);
+}
+
 void SimApplication::WindowClosed(const std::shared_ptr<SimWindow>& window) {
   const bool wasActive = !order_.empty() && order_.back().lock() == window;
   ForgetWindow(*window);
-  if (auto explorer = std::dynamic_pointer_cast<SimExplorer>(window)) explorers_->Remove(*explorer);
-  if (auto inspector = std::dynamic_pointer_cast<SimInspector>(window)) {
-    inspectors_->Remove(*inspector);
-  }
   if (wasActive) {
     if (auto next = ActiveWindow()) next->Raise("Activate");
   }

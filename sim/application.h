@@ -54,6 +54,9 @@ class SimApplication : public SimObject {
 
   // Called by windows.
   void ActivateWindow(const std::shared_ptr<SimWindow>& window);
+  // Before a window's Close: it leaves its collection.
+  void WindowClosing(const SimWindow& window);
+  // After it: the activation order, the next active window, the last window's quit.
   void WindowClosed(const std::shared_ptr<SimWindow>& window);
   // Forgets a window's place in the activation order without events.
   void ForgetWindow(const SimWindow& window);

@@ -108,6 +108,8 @@ class Outlook {
   // The companion writing a user property: sets it and raises ItemChange.
   void ChangeUserProperty(SimItem& item, std::string_view name, int32_t type, const Variant& value);
   std::shared_ptr<SimItem> FindItem(std::string_view entryId);
+  // A new item as the user starts one: unsaved, no EntryID, in no folder.
+  std::shared_ptr<SimItem> NewItem(int32_t itemType);
 
   // ---- categories ----
   std::shared_ptr<SimCategory> AddCategory(std::string name, int32_t color);

@@ -110,6 +110,10 @@ void Outlook::ChangeUserProperty(SimItem& item, std::string_view name, int32_t t
   }
 }
 
+std::shared_ptr<SimItem> Outlook::NewItem(int32_t itemType) {
+  return MakeItem(context_, itemType);
+}
+
 std::shared_ptr<SimItem> Outlook::FindItem(std::string_view entryId) {
   return app_->session().FindItem(entryId);
 }

@@ -21,9 +21,11 @@ void SimWindow::Display() {
 void SimWindow::Close() {
   if (closed_) return;
   auto self = std::static_pointer_cast<SimWindow>(shared_from_this());  // lives through the close
+  auto app = context_->app.lock();
+  if (app) app->WindowClosing(*self);
   Raise("Close");
   closed_ = true;
-  if (auto app = context_->app.lock()) app->WindowClosed(self);
+  if (app) app->WindowClosed(self);
 }
 
 bool SimWindow::IsActive() const {

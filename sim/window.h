@@ -3,11 +3,13 @@
 // at first use; the context's hook, if set, gives another object instead).
 //
 // Activate makes the window the host's active one: the window that was
-// active before gets Deactivate, then this one Activate. Close raises Close
-// while the window is still in its collection, then removes it; the next
-// window in activation order becomes active (Activate), and closing the last
-// window quits the host unless the context says otherwise. A closed window
-// fails every member as the host does.
+// active before gets Deactivate, then this one Activate. Close takes the
+// window out of its collection (Explorers.Count no longer counts it, so the
+// last explorer's Close sees 0), raises Close while the window is still
+// usable and active, then forgets it; the next window in activation order
+// becomes active (Activate), and closing the last window quits the host
+// unless the context says otherwise. A closed window fails every member as
+// the host does.
 #pragma once
 
 #include <memory>

@@ -26,6 +26,8 @@ class UpwardCalls {
                            std::string_view label, bool allowDirectSend) noexcept;
   // The tear-down of everything, in its fixed order (addin/main_module.h).
   virtual void subKillObjects();
+  // The tear-down, if the host has no explorer left (a window's Close).
+  virtual void subShutDownOutlook();
   // Refreshes the bars of every explorer and the active inspector, if the
   // explorers' sink exists.
   virtual void UpdateAllDisplayedToolbars() noexcept;

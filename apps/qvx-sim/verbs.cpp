@@ -20,6 +20,8 @@ void RegisterAllVerbs(VerbTable& table) {
   RegisterRibbonUserVerbs(table);
   RegisterRibbonStandInVerbs(table);
   RegisterBarVerbs(table);
+  RegisterWindowVerbs(table);
+  RegisterFieldsVerbs(table);
   RegisterViewVerbs(table);
 }
 

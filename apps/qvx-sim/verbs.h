@@ -36,6 +36,8 @@ void RegisterRibbonVerbs(VerbTable& table);
 void RegisterRibbonUserVerbs(VerbTable& table);
 void RegisterRibbonStandInVerbs(VerbTable& table);
 void RegisterBarVerbs(VerbTable& table);
+void RegisterWindowVerbs(VerbTable& table);
+void RegisterFieldsVerbs(VerbTable& table);
 void RegisterViewVerbs(VerbTable& table);
 
 // A folder by name: "calendar", "tasks", "inbox", or any folder's own name; a

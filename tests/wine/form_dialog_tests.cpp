@@ -15,74 +15,18 @@
 
 #include "core/variant.h"
 #include "harness/check.h"
+#include "harness/dialog_driver.h"
 #include "platform/form_model.h"
-#include "platform/win32/form_dialog.h"
 
 namespace qvx::winetest {
 namespace {
 
-using Step = std::function<void(HWND dialog)>;
 using platform::FormControl;
 using platform::MakeControl;
 namespace kind = platform::kind;
 
-constexpr int kFirstId = 100;  // the view numbers the controls from here, in declared order
-
-struct Drive {
-  std::vector<Step> steps;
-  size_t next = 0;
-  bool endedByTest = false;
-};
-
-Drive*& Current() {
-  static Drive* drive = nullptr;
-  return drive;
-}
-
-BOOL CALLBACK FindDialog(HWND hwnd, LPARAM found) {
-  wchar_t cls[16] = {};
-  GetClassNameW(hwnd, cls, 16);
-  if (IsWindowVisible(hwnd) && std::wstring(cls) == L"#32770") {
-    *reinterpret_cast<HWND*>(found) = hwnd;
-    return FALSE;
-  }
-  return TRUE;
-}
-
-void CALLBACK Tick(HWND, UINT, UINT_PTR id, DWORD) {
-  Drive& drive = *Current();
-  HWND dialog = nullptr;
-  EnumThreadWindows(GetCurrentThreadId(), FindDialog, reinterpret_cast<LPARAM>(&dialog));
-  if (dialog == nullptr) return;  // not shown yet
-  if (drive.next < drive.steps.size()) {
-    drive.steps[drive.next++](dialog);
-    return;
-  }
-  // Every step is done and the dialog is still there: end it, and say so.
-  KillTimer(nullptr, id);
-  drive.endedByTest = true;
-  EndDialog(dialog, IDABORT);
-}
-
-// Shows the form modally and plays the steps in it; true if the form closed itself.
-bool ShowAndDrive(platform::FormModel& form, std::vector<Step> steps) {
-  Drive drive{std::move(steps)};
-  Current() = &drive;
-  const UINT_PTR timer = SetTimer(nullptr, 0, USER_TIMER_MINIMUM, Tick);
-  win32::RunFormDialog(form);
-  KillTimer(nullptr, timer);
-  Current() = nullptr;
-  return !drive.endedByTest;
-}
-
-std::wstring TextOf(HWND hwnd) {
-  wchar_t text[256] = {};
-  GetWindowTextW(hwnd, text, 256);
-  return text;
-}
-
 HWND Item(HWND dialog, int index) {
-  return GetDlgItem(dialog, kFirstId + index);
+  return ControlOf(dialog, index);
 }
 
 // A form of each kind of control, logging its events as "name.Event".
@@ -149,7 +93,7 @@ WINE_TEST(FormDialog, ShowsTheModelInTabOrderAndEnterClicksTheDefaultButton) {
          std::vector<int> order;
          HWND at = Item(dialog, 1);
          for (int i = 0; i < 4; ++i, at = GetNextDlgTabItem(dialog, at, FALSE)) {
-           order.push_back(GetDlgCtrlID(at) - kFirstId);
+           order.push_back(GetDlgCtrlID(at) - kFirstControlId);
          }
          CHECK_EQ(order, (std::vector<int>{1, 3, 4, 5}));
          CHECK(GetNextDlgTabItem(dialog, Item(dialog, 5), FALSE) == Item(dialog, 1));
@@ -163,7 +107,7 @@ WINE_TEST(FormDialog, ShowsTheModelInTabOrderAndEnterClicksTheDefaultButton) {
          CHECK_EQ(f.form.At("txtField9").text, std::string("42"));
          // The user chooses the first row of the combo box.
          SendMessageW(Item(dialog, 1), CB_SETCURSEL, 0, 0);
-         PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(kFirstId + 1, CBN_SELCHANGE),
+         PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(kFirstControlId + 1, CBN_SELCHANGE),
                       reinterpret_cast<LPARAM>(Item(dialog, 1)));
        },
        [&](HWND dialog) {

@@ -96,9 +96,13 @@ TEST_F(Lifecycle, ClosingOneOfTwoExplorersKeepsTheAddin) {
   ASSERT_EQ(world.host().Explorers().size(), 2u);
   subShutDownOutlook(s());
   EXPECT_EQ(s().main.phase, AddinPhase::Started);
-  for (const auto& explorer : world.host().Explorers()) world.host().Close(*explorer);
-  subShutDownOutlook(s());
+  // Closing them: the last one's Close finds no explorer left.
+  for (const auto& explorer : world.host().Explorers()) {
+    EXPECT_EQ(s().main.phase, AddinPhase::Started);
+    world.host().Close(*explorer);
+  }
   EXPECT_EQ(s().main.phase, AddinPhase::TornDown);
+  EXPECT_TRUE(world.ui().Forms().empty());
 }
 
 // A form that may refuse to unload, as a form with a cancelling unload event does.

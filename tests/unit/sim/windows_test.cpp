@@ -54,14 +54,19 @@ TEST_F(SimWindows, AddCountsAtOnceRaisesNewExplorerAndShowsNothingUntilDisplay) 
   EXPECT_TRUE(app.Get("ActiveExplorer").ToObject().Is(made));
 }
 
-TEST_F(SimWindows, CloseRaisesCloseWhileCountedThenRemovesAndActivatesTheNext) {
+TEST_F(SimWindows, CloseRaisesCloseOnceUncountedThenActivatesTheNext) {
   auto first = world.ActiveExplorer();
   auto second = world.OpenExplorer(world.Calendar());
   long countAtClose = -1;
-  Subscription onClose = second->AsObject().Subscribe(
-      "Close", [&](EventArgs&) { countAtClose = explorers.Get("Count").ToLong(); });
+  std::string folderAtClose;
+  Subscription onClose = second->AsObject().Subscribe("Close", [&](EventArgs&) {
+    countAtClose = explorers.Get("Count").ToLong();
+    folderAtClose = second->AsObject().Get("CurrentFolder").ToObject().Get("Name").ToText();
+  });
   second->AsObject().Call("Close");
-  EXPECT_EQ(countAtClose, 2);
+  // The closing window has left the collection, and can still be used.
+  EXPECT_EQ(countAtClose, 1);
+  EXPECT_EQ(folderAtClose, "Calendar");
   EXPECT_EQ(explorers.Get("Count").ToLong(), 1);
   EXPECT_TRUE(app.Get("ActiveExplorer").ToObject().Is(first->AsObject()));
   EXPECT_EQ(FailureOf([&] { second->AsObject().Get("CurrentFolder"); }).number(), hresult::kFail);

@@ -1,0 +1,159 @@
+// The explorer and inspector sinks over the simulated host: which inspectors
+// get bars, and how a window's Close or the host's Quit ends the add-in
+// while the handler that does it still runs.
+#include <gtest/gtest.h>
+
+#include "addin/explorers_event_client.h"
+#include "addin/inspectors_client.h"
+#include "commandbars/custom_fields_tb.h"
+#include "commandbars/explorer_client.h"
+#include "commandbars/standard_tb.h"
+#include "companion/message_names.h"
+#include "sim/inspector.h"
+#include "sim/item_classes.h"
+#include "unit/reporting/tagging_fixture.h"
+
+namespace qvx::testing {
+namespace {
+
+class Sinks : public TaggingTest {
+ protected:
+  void Start() {
+    Set("DBChoice", "1");
+    world.addin().OnConnection(world.host().Application(), 1, Object());
+    world.addin().OnStartupComplete();
+  }
+  cInspectors& inspectors() { return *s().main.objInspectorsClient; }
+  std::vector<std::string> StandardKeys() {
+    std::vector<std::string> keys;
+    for (const auto& entry : *inspectors().colInspectorsTB) keys.push_back(entry.key);
+    return keys;
+  }
+  bool ListenerExists() {
+    return platform::SocketMessageWindows::WindowExists(companion::kClientWindowCaption);
+  }
+};
+
+TEST_F(Sinks, InspectorsGetBarsOnlyForTheItemsTheAddinWorksOn) {
+  struct Row {
+    const char* messageClass;
+    const char* allowTasks;
+    const char* allowAppointments;
+    bool bar;
+  };
+  const Row rows[] = {
+      {"IPM.Note", "-1", "-1", false},
+      {"IPM.StickyNote", "-1", "-1", false},
+      {"IPM.Contact", "-1", "-1", false},
+      {"IPM.Task", "-1", "0", true},
+      {"IPM.Task", "0", "-1", false},
+      {"IPM.TaskRequest", "-1", "0", true},
+      {"IPM.Appointment", "0", "-1", true},
+      {"IPM.Appointment", "-1", "0", false},
+      {"IPM.OLE.CLASS.{00061055-0000-0000-C000-000000000046}", "0", "-1", true},
+      {"IPM.OLE.CLASS.{00061055-0000-0000-C000-000000000046}", "-1", "0", false},
+      {"ipm.appointment.custom", "0", "-1", true},
+  };
+  for (const Row& row : rows) {
+    scenario::World fresh;
+    fresh.registry().SetString(scenario::kSettingsKey, "DBChoice", "1");
+    fresh.registry().SetString(scenario::kSettingsKey, "AllowTaskItems", row.allowTasks);
+    fresh.registry().SetString(scenario::kSettingsKey, "AllowAppointmentItems",
+                               row.allowAppointments);
+    fresh.addin().OnConnection(fresh.host().Application(), 1, Object());
+    fresh.addin().OnStartupComplete();
+    auto item = fresh.host().NewItem(1);
+    item->SetField("MessageClass", Variant(std::string(row.messageClass)));
+    fresh.host().OpenInspector(item);
+    const auto& bars = *fresh.addin().state().main.objInspectorsClient->colInspectorsTB;
+    EXPECT_EQ(bars.Count(), row.bar ? 1u : 0u) << row.messageClass << " tasks " << row.allowTasks
+                                               << " appointments " << row.allowAppointments;
+    EXPECT_TRUE(fresh.ui().Forms().empty()) << row.messageClass;
+  }
+}
+
+TEST_F(Sinks, AnItemOutsideTheDefaultFolderGetsNoBarOnlyWhenRestricted) {
+  auto other = host().AddFolder(host().Root(), "Other", 1);
+  auto elsewhere =
+      host().AddAppointment("Elsewhere", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2), other);
+  Set("AllowAppointmentItems", "-1");
+  Set("UseDefaultCalendarFolderOnly", "0");
+  Start();
+  host().OpenInspector(elsewhere);
+  EXPECT_EQ(StandardKeys(), std::vector<std::string>{elsewhere->EntryId()});
+  settings().UseDefaultCalendarFolderOnly = -1;
+  inspectors().colInspectorsTB->Clear();
+  host().OpenInspector(elsewhere);
+  host().OpenInspector(
+      host().AddAppointment("Home", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2)));
+  ASSERT_EQ(StandardKeys().size(), 1u);
+  EXPECT_NE(StandardKeys()[0], elsewhere->EntryId());
+}
+
+TEST_F(Sinks, AnInspectorWhoseItemCannotBeReadStillOpensAndIsReported) {
+  Set("AllowAppointmentItems", "-1");
+  Start();
+  auto item = host().AddAppointment("Locked", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2));
+  host().FailAt("Session.GetDefaultFolder(9).Items.Item(1).EntryID", -2147467259,
+                "The operation failed.");
+  auto inspector = host().OpenInspector(item);
+  EXPECT_TRUE(Reported("Inspectors.NewInspector"));
+  EXPECT_FALSE(inspector->closed());
+  EXPECT_EQ(host().Inspectors().size(), 1u);
+  EXPECT_TRUE(StandardKeys().empty()) << "no bar is entered without its key";
+}
+
+TEST_F(Sinks, ClosingTheLastExplorerTearsDownFromInsideItsOwnClient) {
+  Start();
+  ASSERT_EQ(s().main.colExplorerClients->Count(), 1u);
+  std::weak_ptr<cExplorerClient> client = s().main.colExplorerClients->Entries()[0].value;
+  ASSERT_TRUE(ListenerExists());
+  host().Close(*host().ActiveExplorer());
+  EXPECT_EQ(s().main.phase, AddinPhase::TornDown);
+  EXPECT_FALSE(ListenerExists());
+  EXPECT_TRUE(client.expired()) << "the client went after its handler returned";
+  EXPECT_TRUE(world.ui().Forms().empty());
+}
+
+TEST_F(Sinks, TheHostsQuitTearsDownOnceWhateverIsStillOpen) {
+  Start();
+  host().OpenExplorer(host().Calendar());
+  ASSERT_EQ(s().main.colExplorerClients->Count(), 2u);
+  host().Quit();
+  EXPECT_EQ(s().main.phase, AddinPhase::TornDown);
+  EXPECT_FALSE(ListenerExists());
+  EXPECT_EQ(s().main.colExplorerClients, nullptr);
+  EXPECT_TRUE(world.ui().Forms().empty());
+  // The explorers stay open; closing them now reaches nothing of the add-in.
+  for (const auto& explorer : host().Explorers()) host().Close(*explorer);
+  EXPECT_TRUE(world.ui().Forms().empty());
+}
+
+TEST_F(Sinks, RefreshReachesExplorerClientsByKeyAndOnlyTheActiveInspectorsBars) {
+  Set("AllowAppointmentItems", "-1");
+  Set("CustomList2Active", "-1");
+  Start();
+  auto a = host().AddAppointment("A", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2));
+  auto b = host().AddAppointment("B", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2));
+  host().OpenInspector(a);
+  host().OpenInspector(b);
+  auto& bars = *inspectors().colInspectorsTB;
+  auto& custom = *inspectors().colInspectorsCustomFieldsTB;
+  ASSERT_EQ(bars.Count(), 2u);
+  ASSERT_EQ(custom.Count(), 2u);
+  s().main.objExplorersClient->UpdateAllDisplayedToolbars();
+  // Two entries, one inspector on B: B's bars twice, A's not at all.
+  EXPECT_EQ((*bars.Find(b->EntryId()))->toolbarUpdates, 2);
+  EXPECT_EQ((*custom.Find(b->EntryId()))->toolbarUpdates, 2);
+  EXPECT_EQ((*bars.Find(a->EntryId()))->toolbarUpdates, 0);
+  EXPECT_EQ(s().main.colExplorerClients->Entries()[0].value->toolbarUpdates, 1);
+  // With an explorer active, no inspector is refreshed.
+  host().Activate(*host().ActiveExplorer());
+  s().main.objExplorersClient->UpdateAllDisplayedToolbars();
+  EXPECT_EQ((*bars.Find(b->EntryId()))->toolbarUpdates, 2);
+  EXPECT_EQ(s().main.colExplorerClients->Entries()[0].value->toolbarUpdates, 2);
+  EXPECT_TRUE(world.ui().Forms().empty());
+}
+
+}  // namespace
+}  // namespace qvx::testing

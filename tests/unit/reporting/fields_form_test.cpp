@@ -1,0 +1,286 @@
+// frmFields on the form model: what it shows for one item, a reported item
+// and a selection, what Save writes, and the keys fields 9 and 10 refuse.
+#include "reporting/fields_form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "companion/listener_form.h"
+#include "reporting/key_filter.h"
+#include "settings/single_list.h"
+#include "unit/reporting/tagging_fixture.h"
+
+namespace qvx::testing {
+namespace {
+
+class FieldsForm : public TaggingTest {
+ protected:
+  FieldsForm() {
+    Set("DBChoice", "1");
+    Set("ProjectTitle", "Client Project");
+    Set("CustomList1Name", "Region");
+    Set("CustomList1Active", "-1");
+    Set("CustomField1List", "North\r\nSouth");
+    Set("CustomField9Name", "Hours");
+    Set("CustomField9Active", "-1");
+  }
+  const platform::FormControl& At(std::string_view name) { return form->At(name); }
+  void Open(const Object& target) {
+    form = std::make_unique<frmFields>(s());
+    form->LoadFields(target);
+  }
+  void Click(std::string_view control) { form->Raise(control, "Click"); }
+  void Choose(std::string_view control, std::string_view row) {
+    const auto& list = At(control).list;
+    const auto it = std::find(list.begin(), list.end(), row);
+    ASSERT_NE(it, list.end()) << row;
+    form->RowChosen(control, static_cast<int>(it - list.begin()));
+  }
+  void Type(std::string_view control, std::string_view keys) {
+    for (const char key : keys) {
+      const int passed = form->KeyPress(control, key);
+      if (passed == kKeyBackspace && !form->At(control).text.empty()) {
+        form->At(control).text.pop_back();
+      } else if (passed != 0 && passed != kKeyBackspace) {
+        form->At(control).text += static_cast<char>(passed);
+      }
+    }
+  }
+  static void Tag(sim::SimItem& item,
+                  std::initializer_list<std::pair<const char*, const char*>> values) {
+    for (const auto& [name, value] : values) {
+      item.UserProperties().Set(name, 1, Variant(std::string(value)));  // olText
+    }
+  }
+  std::unique_ptr<frmFields> form;
+};
+
+TEST_F(FieldsForm, OneItemShowsItsValuesUnderTheSettingsTitles) {
+  Connect();
+  auto item = Appointment("Planning");
+  Tag(*item, {{"ProjectValue", "Alpha"},
+              {"ActivityValue", "Review"},
+              {"Field1Value", "North"},
+              {"Field7Value", "seven"},
+              {"Field9Value", "12"}});
+  Open(item->AsObject());
+  EXPECT_EQ(form->Caption(), "All Project Fields");
+  EXPECT_EQ(At("lblProject").caption, "Client Project");
+  EXPECT_EQ(At("lblTask").caption, "Activity");
+  EXPECT_EQ(At("lblField1").caption, "Region");
+  EXPECT_EQ(At("lblField9").caption, "Hours");
+  EXPECT_EQ(At("txtReportedID").text, "Not Reported Yet!");
+  EXPECT_TRUE(At("txtReportedID").visible);
+  EXPECT_EQ(At("cboProject").text, "Alpha");
+  EXPECT_EQ(At("cboTask").text, "Review");
+  EXPECT_EQ(At("cboField1").text, "North");
+  EXPECT_EQ(At("txtField7").text, "seven");
+  EXPECT_EQ(At("txtField9").text, "12");
+  // Inactive fields are shown disabled, with what the item holds.
+  for (const char* name : {"lblField2", "cboField2", "lblField7", "txtField7", "txtField10"}) {
+    EXPECT_FALSE(At(name).enabled) << name;
+  }
+  for (const char* name : {"cboField1", "txtField9", "cboProject", "cmdSave"}) {
+    EXPECT_TRUE(At(name).enabled) << name;
+  }
+  for (int n = 2; n <= 7; ++n) {
+    EXPECT_EQ(At("Image" + std::to_string(n)).toolTip, "Takes a drop down list");
+  }
+  EXPECT_EQ(At("Image8").toolTip, "Currency field");
+  EXPECT_EQ(At("Image9").toolTip, "Currency field");
+  EXPECT_EQ(At("cmdSave").caption, "&Save");
+  EXPECT_EQ(At("cmdCancel").caption, "&Cancel");
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(FieldsForm, AReportedItemIsLockedOnlyUnderTheFlag) {
+  Connect();
+  for (const int16_t flag : {0, -1}) {
+    settings().DontAllowChangesToReportedItem = flag;
+    auto item = Appointment("Reported " + std::to_string(flag));
+    Tag(*item, {{"ReportedID", " 4711 "}, {"ProjectValue", "Alpha"}});
+    Open(item->AsObject());
+    const bool locked = flag != 0;
+    EXPECT_EQ(At("txtReportedID").text, "4711") << flag;
+    EXPECT_TRUE(form->ReportedItemState);
+    for (const char* name : {"cboProject", "cboTask", "cboField1", "txtField9", "cmdSave"}) {
+      EXPECT_EQ(At(name).enabled, !locked) << name << " flag " << flag;
+    }
+    EXPECT_EQ(At("cmdCancel").caption, locked ? "E&xit" : "&Cancel");
+    // Save, even when reached, changes nothing under the flag and the form stays.
+    form->Control("cboProject").Put("Text", Variant("Beta"));
+    const int saves = item->saveCount();
+    Click("cmdSave");
+    EXPECT_EQ(form->Unloaded(), !locked) << flag;
+    EXPECT_EQ(Prop(*item, "ProjectValue"), locked ? "Alpha" : "Beta");
+    EXPECT_EQ(item->saveCount() > saves, !locked);
+  }
+}
+
+TEST_F(FieldsForm, ChoosingAProjectOffersItsActivities) {
+  Connect();
+  auto item = Appointment("Planning");
+  Open(item->AsObject());
+  EXPECT_TRUE(At("cboTask").list.empty());
+  Choose("cboProject", "Alpha");
+  EXPECT_EQ(At("cboTask").list, (std::vector<std::string>{"Design", "Review"}));
+  EXPECT_EQ(At("cboTask").text, "");
+  Choose("cboProject", "Beta");
+  EXPECT_EQ(At("cboTask").list, std::vector<std::string>{"Build"});
+  // A project typed in that the catalogue has no activities for: none offered.
+  form->Control("cboProject").Put("Text", Variant("Omega"));
+  form->Raise("cboProject", "Click");
+  EXPECT_TRUE(At("cboTask").list.empty());
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(FieldsForm, SaveWritesEveryBoxOntoTheItemAndCloses) {
+  Connect();
+  auto item = Appointment("Planning");
+  Tag(*item, {{"Field2Value", "old"}, {"Field5Value", "five"}});
+  Open(item->AsObject());
+  Choose("cboProject", "Beta");
+  Choose("cboTask", "Build");
+  Choose("cboField1", "South");
+  Type("txtField9", "1a2-3.5,\b");
+  EXPECT_EQ(At("txtField9").text, "123");
+  Click("cmdSave");
+  EXPECT_TRUE(form->Unloaded());
+  EXPECT_EQ(Prop(*item, "ProjectValue"), "Beta");
+  EXPECT_EQ(Prop(*item, "ActivityValue"), "Build");
+  EXPECT_EQ(Prop(*item, "Field1Value"), "South");
+  EXPECT_EQ(Prop(*item, "Field9Value"), "123");
+  // The disabled boxes are written with what they hold, the empty ones too.
+  EXPECT_EQ(Prop(*item, "Field2Value"), "old");
+  EXPECT_EQ(Prop(*item, "Field5Value"), "five");
+  EXPECT_EQ(Prop(*item, "Field10Value"), "");
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(FieldsForm, CancelWritesNothing) {
+  Connect();
+  auto item = Appointment("Planning");
+  Open(item->AsObject());
+  Choose("cboProject", "Beta");
+  const int saves = item->saveCount();
+  Click("cmdCancel");
+  EXPECT_TRUE(form->Unloaded());
+  EXPECT_EQ(Prop(*item, "ProjectValue"), "(none)");
+  EXPECT_EQ(item->saveCount(), saves);
+}
+
+TEST_F(FieldsForm, FieldsNineAndTenTakeDigitsAndBackspaceOnly) {
+  Connect();
+  Open(Appointment("Planning")->AsObject());
+  for (const char* box : {"txtField9", "txtField10"}) {
+    for (int key = 1; key < 128; ++key) {
+      const bool passes = (key >= '0' && key <= '9') || key == kKeyBackspace;
+      EXPECT_EQ(form->KeyPress(box, key), passes ? key : 0) << box << " key " << key;
+    }
+  }
+  // The other boxes take any key.
+  EXPECT_EQ(form->KeyPress("txtField8", 'x'), 'x');
+  // A paste is not filtered.
+  form->TextEdited("txtField9", "12.5 EUR");
+  EXPECT_EQ(At("txtField9").text, "12.5 EUR");
+}
+
+TEST_F(FieldsForm, ASelectionStartsEmptyAndSaveWritesEveryBoxOntoEveryItem) {
+  Set("DontAllowChangesToReportedItem", "-1");
+  Connect();
+  auto a = Appointment("A");
+  auto b = Appointment("B");
+  auto reported = Appointment("Reported");
+  Tag(*a, {{"ProjectValue", "Alpha"}, {"Field1Value", "North"}, {"Field9Value", "7"}});
+  Tag(*b, {{"ProjectValue", "Gamma"}, {"Field6Value", "six"}});
+  Tag(*reported, {{"ReportedID", "1"}, {"ProjectValue", "Alpha"}});
+  Select({a, b, reported});
+  Open(explorer->AsObject().Get("Selection").ToObject());
+  EXPECT_TRUE(form->MultipleSelection);
+  EXPECT_FALSE(At("txtReportedID").visible);
+  EXPECT_FALSE(At("lblReportedID").visible);
+  for (const char* name : {"cboProject", "cboTask", "cboField1", "txtField6", "txtField9"}) {
+    EXPECT_EQ(At(name).text, "") << name;
+  }
+  Choose("cboProject", "Beta");
+  Click("cmdSave");
+  EXPECT_TRUE(form->Unloaded());
+  for (const auto& item : {a, b}) {
+    EXPECT_EQ(Prop(*item, "ProjectValue"), "Beta") << item->Subject();
+    EXPECT_EQ(Prop(*item, "Field1Value"), "") << item->Subject();
+    EXPECT_EQ(Prop(*item, "Field6Value"), "") << item->Subject();
+    EXPECT_EQ(Prop(*item, "Field9Value"), "") << item->Subject();
+  }
+  EXPECT_EQ(Prop(*reported, "ProjectValue"), "Alpha") << "a reported item is passed over";
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(FieldsForm, AFailedSaveIsToldAndTheNextItemIsStillWritten) {
+  Connect();
+  auto a = Appointment("Refuses");
+  auto b = Appointment("Accepts");
+  Select({a, b});
+  Open(explorer->AsObject().Get("Selection").ToObject());
+  a->FailMember("Save", -2147024891, "Access denied.");
+  Choose("cboProject", "Alpha");
+  Click("cmdSave");
+  ASSERT_EQ(world.ui().MessageBoxes().size(), 1u);
+  EXPECT_EQ(world.ui().MessageBoxes()[0].text,
+            "There seems to be permission issue in saving the item & 'Refuses'!\r\n"
+            "Please review permission and try again!");
+  EXPECT_EQ(world.ui().MessageBoxes()[0].title, "Quorvix Client Addin");
+  EXPECT_EQ(world.ui().MessageBoxes()[0].style, platform::msgbox::kCritical);
+  EXPECT_EQ(Prop(*b, "ProjectValue"), "Alpha");
+  EXPECT_TRUE(form->Unloaded());
+}
+
+TEST_F(FieldsForm, AnItemThatVanishedWhileOpenIsNotHalfWritten) {
+  Connect();
+  auto item = Appointment("Gone");
+  Open(item->AsObject());
+  Choose("cboProject", "Alpha");
+  item->Delete();
+  Click("cmdSave");
+  EXPECT_EQ(Prop(*item, "ProjectValue"), "(none)");
+  EXPECT_TRUE(form->Unloaded()) << "the save ends, and the form with it";
+}
+
+// Between two items of a selection the save lets messages through: the
+// companion may have the settings read again, and an item may go meanwhile.
+TEST_F(FieldsForm, WhatHappensWhileTheSaveLetsMessagesThroughIsTakenInStride) {
+  Connect();
+  LoadListenToLocal(s());
+  auto a = Appointment("A");
+  auto b = Appointment("B");
+  Select({a, b});
+  Open(explorer->AsObject().Get("Selection").ToObject());
+  Choose("cboProject", "Beta");
+  Type("txtField9", "5");
+  host().Pending().Post([&] {
+    Set("MyProjectsTasks", "Other,1,,:");
+    WindowProc(s(), WM_MYMESSAGE(s(), Channel::Client), 0);
+    b->Delete();
+  });
+  Click("cmdSave");
+  EXPECT_TRUE(form->Unloaded());
+  EXPECT_EQ(Prop(*a, "ProjectValue"), "Beta") << "the box's text, whatever the lists now hold";
+  EXPECT_EQ(Prop(*a, "Field9Value"), "5");
+  EXPECT_EQ(Prop(*b, "ProjectValue"), "(none)");
+  EXPECT_EQ(Prop(*b, "Field9Value"), "(none)") << "nothing of the gone item is written";
+  EXPECT_EQ(settings().Projects->dicList.Count(), 1u);
+}
+
+TEST_F(FieldsForm, ShowStaticFieldsOpensOnTheSelectionOrNotAtAll) {
+  Connect();
+  Select({});
+  ShowStaticFields(s());
+  EXPECT_TRUE(world.ui().Forms().empty());
+  auto item = Appointment("Planning");
+  Select({item});
+  ShowStaticFields(s());
+  ASSERT_EQ(world.ui().Forms().size(), 1u);
+  EXPECT_EQ(world.ui().Forms()[0].caption, "All Project Fields");
+}
+
+}  // namespace
+}  // namespace qvx::testing
