@@ -10,7 +10,7 @@
 
 #include "core/text.h"
 #include "platform/posix/embedded_resources.h"
-#include "sim/view_document.h"
+#include "sim/documents/view_document.h"
 #include "views/view_xml.h"
 
 namespace qvx::testing {

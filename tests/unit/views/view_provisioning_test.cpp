@@ -9,12 +9,12 @@
 #include <algorithm>
 
 #include "core/host_constants.h"
+#include "sim/documents/view_document.h"
 #include "sim/errors.h"
 #include "sim/folder.h"
 #include "sim/item.h"
 #include "sim/items.h"
 #include "sim/outlook.h"
-#include "sim/view_document.h"
 #include "sim/views.h"
 #include "unit/reporting/test_addin.h"
 #include "views/view_names.h"

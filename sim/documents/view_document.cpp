@@ -1,4 +1,4 @@
-#include "sim/view_document.h"
+#include "sim/documents/view_document.h"
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>

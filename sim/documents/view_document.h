@@ -1,4 +1,5 @@
-// A view document (the host's View.XML) as the simulated host reads it.
+// A view document (the host's View.XML) as the host reads it, for tests and
+// scripts to look into; native only, as it reads with libxml2.
 //
 // The host takes a document whose root is `view`; what follows the root's
 // end tag is not read, as a host reading the stream stops there. Text that is
