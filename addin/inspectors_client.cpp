@@ -1,7 +1,7 @@
 #include "addin/inspectors_client.h"
 
-#include "commandbars/custom_fields_tb.h"
-#include "commandbars/standard_tb.h"
+#include "commandbars/custom_fields_toolbar.h"
+#include "commandbars/standard_toolbar.h"
 #include "core/text.h"
 #include "reporting/item_filters.h"
 #include "settings/my_settings.h"
@@ -112,19 +112,21 @@ void cInspectors::ouisInspectors_NewInspector(Line& line, const Object& inspecto
   const Object folder = Quietly(s.err, [&] { return ParentFolder(item); }).value_or(Object());
   if (folder && !IsDefaultFolder(s, folder)) return;
   line = 50;
+  const std::string entryId = item.Get("EntryID").ToText();
   auto standard = std::make_shared<cStandardTB>(s);
-  standard->GROUP_CALENDAR_INSPECTOR_VISIBLE = true;
-  standard->GROUP_TASK_INSPECTOR_VISIBLE = true;
-  standard->oueCurrInspector = inspector;
+  standard->strPoolKey = entryId;
+  standard->SetVariableValue("GROUP_CALENDAR_INSPECTOR_VISIBLE", Variant(true));
+  standard->SetVariableValue("GROUP_TASK_INSPECTOR_VISIBLE", Variant(true));
+  standard->oueCurrInspector.Set(inspector);
   standard->subAddButtons();
   standard->ShowFields(item);
   line = 60;
-  const std::string entryId = item.Get("EntryID").ToText();
   Enter(*colInspectorsTB, entryId, standard);
   line = 70;
   if (!AreAllCustomFieldsActive(s)) return;
   auto custom = std::make_shared<cCustomFieldsTB>(s);
-  custom->oueCurrInspector = inspector;
+  custom->strPoolKey = entryId;
+  custom->oueCurrInspector.Set(inspector);
   custom->subAddButtons();
   custom->ShowFields(item);
   line = 80;

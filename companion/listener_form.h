@@ -3,6 +3,9 @@
 // fListenToLocal is loaded at start-up: its window carries the caption the
 // companion looks for, and its procedure sees both channels. fListenToAdmin
 // only ever exists as a handler object, made on the first manager message.
+// So only one window is ever hooked, and the previous procedure that the
+// platform keeps with it is the process's one slot; unloading the form
+// puts it back.
 //
 // Client channel "ZNB_QVX_Client", wParam: 0 settings changed, 1 run the
 // unattended synchronisation, 2 items or toolbars changed. Manager channel

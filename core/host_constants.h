@@ -85,6 +85,14 @@ inline constexpr int32_t msoButtonIcon = 1;
 inline constexpr int32_t msoButtonCaption = 2;
 inline constexpr int32_t msoButtonIconAndCaption = 3;
 
+// MsoComboStyle: a combo box with its caption shown as a label before it.
+inline constexpr int32_t msoComboNormal = 0;
+inline constexpr int32_t msoComboLabel = 1;
+
+// MsoButtonState and MsoCommandBarButtonHyperlinkType.
+inline constexpr int32_t msoButtonUp = 0;
+inline constexpr int32_t msoCommandBarButtonHyperlinkOpen = 1;
+
 // PS_PUBLIC_STRINGS: the named-property set where the host keeps user fields.
 inline constexpr std::string_view kPublicStringsGuid = "{00020329-0000-0000-C000-000000000046}";
 

@@ -47,6 +47,10 @@ void Outlook::SetNow(DateValue now) {
   context_->clock = [this] { return now_; };
 }
 
+DateValue Outlook::Now() const {
+  return context_->Now();
+}
+
 void Outlook::SetClock(std::function<DateValue()> clock) {
   context_->clock = std::move(clock);
 }

@@ -70,6 +70,7 @@ class Outlook {
   // ---- configuration ----
   void SetVersion(std::string version);
   void SetNow(DateValue now);  // a fixed clock
+  DateValue Now() const;       // the host's present time
   void SetClock(std::function<DateValue()> clock);
   void AdvanceClock(double seconds);
   void SetCreateObject(std::function<Object(std::string_view progId)> create);

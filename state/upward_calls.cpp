@@ -7,6 +7,7 @@ void UpwardCalls::subKillObjects() {}
 void UpwardCalls::subShutDownOutlook() {}
 void UpwardCalls::UpdateAllDisplayedToolbars() noexcept {}
 void UpwardCalls::subInvalidateRibbon() noexcept {}
+void UpwardCalls::subInvalidateCustomFieldControls() noexcept {}
 void UpwardCalls::LoadProjectColorCodesToOutlook() noexcept {}
 
 }  // namespace qvx

@@ -33,6 +33,8 @@ class UpwardCalls {
   virtual void UpdateAllDisplayedToolbars() noexcept;
   // Makes the host call every ribbon callback again.
   virtual void subInvalidateRibbon() noexcept;
+  // The same, for the custom field drop-downs only.
+  virtual void subInvalidateCustomFieldControls() noexcept;
   // Copies the projects' colours into the host's category list.
   virtual void LoadProjectColorCodesToOutlook() noexcept;
 };

@@ -36,6 +36,8 @@ void RegisterRibbonVerbs(VerbTable& table);
 void RegisterRibbonUserVerbs(VerbTable& table);
 void RegisterRibbonStandInVerbs(VerbTable& table);
 void RegisterBarVerbs(VerbTable& table);
+// Called by RegisterBarVerbs: the copies of the bars' state for the explorer ribbon.
+void RegisterBarValueVerbs(VerbTable& table);
 void RegisterWindowVerbs(VerbTable& table);
 void RegisterFieldsVerbs(VerbTable& table);
 void RegisterViewVerbs(VerbTable& table);

@@ -95,6 +95,9 @@ std::string FieldOf(sim::SimBarControl& control, const std::string& field,
   if (field == "tooltip") return control.tooltip();
   if (field == "begin-group") return YesNo(control.beginGroup());
   if (field == "events") return std::to_string(control.raised());
+  auto* button = dynamic_cast<sim::SimBarButton*>(&control);
+  if (button && field == "style") return std::to_string(button->style());
+  if (button && field == "face-id") return std::to_string(button->faceId());
   auto* combo = dynamic_cast<sim::SimBarComboBox*>(&control);
   if (combo && field == "text") return combo->text();
   if (combo && field == "list-index") return std::to_string(combo->listIndex());
@@ -209,7 +212,7 @@ void AddExpectVerbs(VerbTable& table) {
             });
   table.Add("expect control", "expect control BAR CONTROL FIELD VALUE...",
             "FIELD: caption, enabled, visible (yes|no), tag, tooltip, begin-group, text, list "
-            "(the entries), list-index, events (Click and Change raised)",
+            "(the entries), list-index, events (Click and Change raised), style, face-id",
             [](World& w, const Args& a) {
               a.Expect(3, kAnyCount);
               auto control = Control(w, a.At(0), a.At(1));
@@ -228,6 +231,7 @@ void RegisterBarVerbs(VerbTable& table) {
   AddSetupVerbs(table);
   AddUserVerbs(table);
   AddExpectVerbs(table);
+  RegisterBarValueVerbs(table);
 }
 
 }  // namespace qvx::scenario

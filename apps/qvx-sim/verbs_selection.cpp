@@ -112,6 +112,17 @@ void AddItemVerbs(VerbTable& table) {
               a.Expect(3);
               ItemNamed(w, a.At(0))->SetField(a.At(1), FieldValue(a.At(2)));
             });
+  table.Add("item complete", "item complete SUBJECT",
+            "the user marks the task complete and it is saved, at the machine's present time",
+            [](World& w, const Args& a) {
+              a.Expect(1);
+              auto item = ItemNamed(w, a.At(0));
+              const DateValue hostNow = w.host().Now();
+              w.host().SetNow(w.system().Now());
+              item->AsObject().Call("MarkComplete");
+              item->AsObject().Call("Save");
+              w.host().SetNow(hostNow);
+            });
   table.Add("item delete", "item delete SUBJECT",
             "the item goes (moved or deleted elsewhere); handles to it fail from then on",
             [](World& w, const Args& a) {
@@ -134,6 +145,14 @@ void AddWindowVerbs(VerbTable& table) {
             [](World& w, const Args& a) {
               a.Expect(1);
               w.host().OpenExplorer(FolderNamed(w, a.At(0)));
+            });
+  table.Add("explorer switch", "explorer switch FOLDER",
+            "the user shows another folder in the active explorer; its first item is selected",
+            [](World& w, const Args& a) {
+              a.Expect(1);
+              auto explorer = w.host().ActiveExplorer();
+              if (!explorer) throw UsageError("no explorer is open");
+              w.host().SwitchFolder(*explorer, FolderNamed(w, a.At(0)));
             });
   table.Add("explorer select", "explorer select [SUBJECT...]",
             "the user selects these items in the active explorer (none: an empty selection)",

@@ -28,6 +28,23 @@ void WriteFieldsSettings(const wchar_t* dontAllowChanges) {
                  {L"DontAllowChangesToReportedItem", dontAllowChanges}});
 }
 
+// frmFields loaded on one appointment with these text properties, its
+// caption marked so that the watcher leaves the dialog to the test.
+struct FieldsOnItem {
+  explicit FieldsOnItem(std::initializer_list<std::pair<const char*, const char*>> properties) {
+    for (const auto& [name, value] : properties) {
+      item->UserProperties().Set(name, kText, Variant(value));
+    }
+    form.LoadFields(item->AsObject());
+    CHECK_EQ(form.Caption(), std::string("All Project Fields"));
+    form.SetCaption("Test: " + form.Caption());
+  }
+  LocalAddin local;
+  std::shared_ptr<sim::SimAppointment> item =
+      local.host.AddAppointment("Planning", DateSerial(2026, 3, 2), DateSerial(2026, 3, 3));
+  frmFields form{local.s};
+};
+
 std::string Property(sim::SimItem& item, std::string_view name) {
   auto property = item.UserProperties().Find(name);
   return property ? property->value().ToText() : std::string("(none)");
@@ -37,14 +54,12 @@ std::string Property(sim::SimItem& item, std::string_view name) {
 
 WINE_TEST(FieldsDialog, OpensAsAWindowAndSaveWritesWhatWasTyped) {
   WriteFieldsSettings(L"0");
-  LocalAddin local;
-  auto item = local.host.AddAppointment("Planning", DateSerial(2026, 3, 2), DateSerial(2026, 3, 3));
-  item->UserProperties().Set("ProjectValue", kText, Variant("Alpha"));
-  frmFields form(local.s);
-  form.LoadFields(item->AsObject());
+  FieldsOnItem f({{"ProjectValue", "Alpha"}});
+  frmFields& form = f.form;
+  auto& item = f.item;
   const bool closedItself = ShowAndDrive(
       form, {[&](HWND dialog) {
-               CHECK(TextOf(dialog) == L"All Project Fields");
+               CHECK(TextOf(dialog) == L"Test: All Project Fields");
                CHECK(TextOf(ControlOf(dialog, form, "txtReportedID")) == L"Not Reported Yet!");
                CHECK(TextOf(ControlOf(dialog, form, "lblField9")) == L"Hours");
                CHECK(TextOf(ControlOf(dialog, form, "cboProject")) == L"Alpha");
@@ -64,17 +79,16 @@ WINE_TEST(FieldsDialog, OpensAsAWindowAndSaveWritesWhatWasTyped) {
   CHECK(form.Unloaded());
   CHECK_EQ(Property(*item, "Field9Value"), std::string("42"));
   CHECK_EQ(Property(*item, "ProjectValue"), std::string("Alpha"));
-  CHECK(local.failures->empty());
+  CHECK(f.local.failures->empty());
   CHECK(Watcher().Take().empty());
   DeleteTree(kSettingsKey);
 }
 
 WINE_TEST(FieldsDialog, CancelClosesWithoutWriting) {
   WriteFieldsSettings(L"0");
-  LocalAddin local;
-  auto item = local.host.AddAppointment("Planning", DateSerial(2026, 3, 2), DateSerial(2026, 3, 3));
-  frmFields form(local.s);
-  form.LoadFields(item->AsObject());
+  FieldsOnItem f({});
+  frmFields& form = f.form;
+  auto& item = f.item;
   const bool closedItself = ShowAndDrive(
       form, {[&](HWND dialog) {
                HWND hours = ControlOf(dialog, form, "txtField9");
@@ -84,17 +98,15 @@ WINE_TEST(FieldsDialog, CancelClosesWithoutWriting) {
              [&](HWND dialog) { PostClick(dialog, ControlOf(dialog, form, "cmdCancel")); }});
   CHECK(closedItself);
   CHECK_EQ(Property(*item, "Field9Value"), std::string("(none)"));
-  CHECK(local.failures->empty());
+  CHECK(f.local.failures->empty());
   DeleteTree(kSettingsKey);
 }
 
 WINE_TEST(FieldsDialog, AReportedItemUnderTheFlagOnlyShowsAndExitCloses) {
   WriteFieldsSettings(L"-1");
-  LocalAddin local;
-  auto item = local.host.AddAppointment("Done", DateSerial(2026, 3, 2), DateSerial(2026, 3, 3));
-  item->UserProperties().Set("ReportedID", kText, Variant("4711"));
-  frmFields form(local.s);
-  form.LoadFields(item->AsObject());
+  FieldsOnItem f({{"ReportedID", "4711"}});
+  frmFields& form = f.form;
+  auto& item = f.item;
   const bool closedItself =
       ShowAndDrive(form, {[&](HWND dialog) {
                      CHECK(TextOf(ControlOf(dialog, form, "txtReportedID")) == L"4711");

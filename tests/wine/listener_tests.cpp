@@ -66,16 +66,18 @@ WINE_TEST(Listener, ClientMessagesFromAnotherProcessReachTheAddin) {
 }
 
 // The companion writes settings with the registry API from its own process,
-// then says so: the add-in's next decision shows the new values.
+// then says so: the add-in's next decision (the projects' colours) shows
+// the new values.
 WINE_TEST(Listener, SettingsWrittenOutsideAreReadWhenTheClientSaysSo) {
   WriteSettings({{L"DBChoice", L"1"}, {L"DBConnectionString", L""}});
   ClearJournal();
   AddinSession session;
   session.Start();
   CHECK(session.world().FindCategory("Alpha") == nullptr);
-  WriteText(kSettingsKey, L"AddProjectColorCodes", L"-1");
-  WriteText(kSettingsKey, L"MyProjectsTasks", L"Alpha,5,,:Design,");
-  CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 0), 0u);
+  CHECK_EQ(
+      PostFromAnotherProcess(L"ZNB_QVX_Client", 0,
+                             {L"AddProjectColorCodes=-1", L"MyProjectsTasks=Alpha,5,,:Design,"}),
+      0u);
   CHECK(PumpUntil([&] { return session.world().FindCategory("Alpha") != nullptr; }));
   if (auto alpha = session.world().FindCategory("Alpha")) CHECK_EQ(alpha->color(), 5);
   CHECK(FinishedLaunches().empty());

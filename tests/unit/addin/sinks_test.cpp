@@ -5,9 +5,9 @@
 
 #include "addin/explorers_event_client.h"
 #include "addin/inspectors_client.h"
-#include "commandbars/custom_fields_tb.h"
+#include "commandbars/custom_fields_toolbar.h"
 #include "commandbars/explorer_client.h"
-#include "commandbars/standard_tb.h"
+#include "commandbars/standard_toolbar.h"
 #include "companion/message_names.h"
 #include "sim/inspector.h"
 #include "sim/item_classes.h"

@@ -54,9 +54,11 @@ HWND FindClientWindow() {
   return FindWindowA(nullptr, "Client Window - Quorvix Client for Outlook");
 }
 
-DWORD PostFromAnotherProcess(const std::wstring& name, int value) {
+DWORD PostFromAnotherProcess(const std::wstring& name, int value,
+                             const std::vector<std::wstring>& settings) {
   std::wstring command =
       L"\"" + ProgramFolder() + L"qvx_post_message.exe\" " + name + L" " + std::to_wstring(value);
+  for (const std::wstring& setting : settings) command += L" \"" + setting + L"\"";
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   PROCESS_INFORMATION process{};

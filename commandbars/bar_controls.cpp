@@ -1,0 +1,34 @@
+#include "commandbars/bar_controls.h"
+
+#include "core/host_constants.h"
+#include "core/variant.h"
+
+namespace qvx {
+
+Object AddTemporaryControl(const Object& controls, int32_t type) {
+  return controls
+      .Call("Add", {Variant(type), Variant(host::msoControlIdCustom), Variant::Missing(),
+                    Variant::Missing(), Variant(true)})
+      .ToObject();
+}
+
+void DeleteControl(ErrorState& err, Object& control) noexcept {
+  if (!control) return;
+  IgnoreFailure(err, [&] { control.Call("Delete"); });
+  control.Release();
+}
+
+void SweepBars(ErrorState& err, const Object& window, std::string_view name) noexcept {
+  if (!window) return;
+  std::vector<Variant> bars;
+  IgnoreFailure(err, [&] { bars = window.Get("CommandBars").ToObject().Enumerate(); });
+  for (const Variant& entry : bars) {
+    IgnoreFailure(err, [&] {
+      const Object bar = entry.ToObject();
+      if (bar.Get("Name").ToText() == name) bar.Call("Delete");
+    });
+  }
+  err.Clear();
+}
+
+}  // namespace qvx
