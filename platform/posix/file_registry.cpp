@@ -23,12 +23,12 @@ constexpr off_t kMaxFileBytes = 16 * 1024 * 1024;
 
 enum class FileRead { Missing, Unreadable, Read };
 
-FileRead ReadWhole(const std::string& path, std::string& out) {
+// `st` receives the status of the file whose bytes were read.
+FileRead ReadWhole(const std::string& path, std::string& out, struct stat& st) {
   out.clear();
   // Non-blocking, so that a FIFO or device in its place cannot hang a read.
   const UniqueFd fd(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
   if (!fd) return errno == ENOENT ? FileRead::Missing : FileRead::Unreadable;
-  struct stat st {};
   FileRead result = FileRead::Read;
   if (::fstat(fd.get(), &st) != 0 || !S_ISREG(st.st_mode) || st.st_size > kMaxFileBytes) {
     result = FileRead::Unreadable;
@@ -89,6 +89,10 @@ bool IsUtf8(std::string_view s) {
   return SanitizeUtf8(s) == s;
 }
 
+int64_t Nanoseconds(const struct timespec& t) {
+  return static_cast<int64_t>(t.tv_sec) * 1'000'000'000 + t.tv_nsec;
+}
+
 }  // namespace
 
 FileRegistry::FileRegistry(std::string path, std::string machinePath) {
@@ -120,9 +124,31 @@ std::string FileRegistry::MachineLocationBeside(std::string_view userFile) {
   return std::string(folder) + "machine-registry.txt";
 }
 
+FileRegistry::FileStamp FileRegistry::StampOf(const struct stat& st) {
+  return FileStamp{static_cast<uint64_t>(st.st_dev), static_cast<uint64_t>(st.st_ino),
+                   static_cast<int64_t>(st.st_size), Nanoseconds(st.st_ctim)};
+}
+
+void FileRegistry::Stamp(HiveFile& file, const struct stat& st) const {
+  file.lastStamp = StampOf(st);
+  struct timespec now {};
+  ::clock_gettime(CLOCK_REALTIME, &now);
+  // A write after this moment gets a change time of at least now less one
+  // tick, so it cannot repeat a change time that lies further back.
+  file.stampTrusted = file.lastStamp.changedNs < Nanoseconds(now) - settle_.count();
+}
+
 Verdict FileRegistry::Load(HiveFile& file) {
+  if (file.haveLast && file.stampTrusted) {
+    struct stat st {};
+    if (::stat(file.path.c_str(), &st) == 0 && StampOf(st) == file.lastStamp) {
+      return file.lastVerdict;
+    }
+  }
   std::string bytes;
-  switch (ReadWhole(file.path, bytes)) {
+  struct stat st {};
+  ++fileReads_;
+  switch (ReadWhole(file.path, bytes, st)) {
     case FileRead::Missing:
       file.haveLast = false;
       file.contents = Contents{};
@@ -134,6 +160,7 @@ Verdict FileRegistry::Load(HiveFile& file) {
     case FileRead::Read:
       break;
   }
+  Stamp(file, st);
   if (file.haveLast && bytes == file.lastBytes) return file.lastVerdict;
   file.lastVerdict = regfile::Parse(bytes, file.contents);
   file.lastBytes = std::move(bytes);
@@ -156,6 +183,13 @@ long FileRegistry::Update(HiveFile& file, Change&& change) {
   file.lastBytes = std::move(text);
   file.lastVerdict = Verdict::Valid;
   file.haveLast = true;
+  // Under the lock nobody else writes: the file now is the one just written.
+  struct stat st {};
+  if (::stat(file.path.c_str(), &st) == 0) {
+    Stamp(file, st);
+  } else {
+    file.stampTrusted = false;
+  }
   return kErrorSuccess;
 }
 

@@ -4,7 +4,10 @@
 // HKEY_LOCAL_MACHINE. Both are shared with other processes (the companion
 // stand-ins), so:
 //
-// - every open and query reads the file again, and sees another process's write;
+// - every open and query sees another process's write: the file is read
+//   again whenever its identity, size or change time differs from the last
+//   read, and also while its change time is too recent to tell two writes
+//   within one clock tick apart;
 // - every write replaces the file atomically (temporary file, then rename)
 //   under an advisory lock, so a reader never sees half a write;
 // - a missing, empty, cut, foreign or garbage file reads as "no values", and a
@@ -21,7 +24,9 @@
 //   std::optional<std::string> v = registry.ReadString("Software\\Zenbrook\\QVX", "DBChoice");
 #pragma once
 
+#include <chrono>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,6 +35,8 @@
 
 #include "platform/posix/file_registry_format.h"
 #include "platform/registry_api.h"
+
+struct stat;
 
 namespace qvx::platform {
 
@@ -87,13 +94,31 @@ class FileRegistry final : public RegistryApi {
   bool KeyExists(std::string_view keyPath, Hive hive = Hive::CurrentUser);
   // Handles opened and not yet closed (the store leaves one open on purpose).
   size_t OpenHandles() const noexcept { return openHandles_; }
+  // How often a file's bytes were read (for tests and benchmarks).
+  size_t FileReads() const noexcept { return fileReads_; }
+  // How old a file's change time must be, when it is read, for a later
+  // unchanged stamp to be trusted. File times move in clock ticks, so two
+  // writes within one tick can leave equal stamps; a tick is far below the
+  // default. Tests set zero to see the cache at work without waiting.
+  void SetSettleTime(std::chrono::nanoseconds settle) noexcept { settle_ = settle; }
 
  private:
+  // What tells one version of a file from another without reading it: a
+  // write replaces the file by rename, so its identity changes too.
+  struct FileStamp {
+    uint64_t device = 0;
+    uint64_t inode = 0;
+    int64_t size = -1;
+    int64_t changedNs = 0;
+    bool operator==(const FileStamp&) const = default;
+  };
   // One hive's file and what was last read from it.
   struct HiveFile {
     std::string path;
     std::string lastBytes;
     bool haveLast = false;
+    FileStamp lastStamp;
+    bool stampTrusted = false;  // the file had settled when it was read
     regfile::Verdict lastVerdict = regfile::Verdict::Empty;
     regfile::Contents contents;
   };
@@ -106,12 +131,16 @@ class FileRegistry final : public RegistryApi {
   const HiveFile& File(Hive hive) const noexcept {
     return hive == Hive::LocalMachine ? machine_ : user_;
   }
-  // Reads the file again into its contents; parses only if its bytes changed
-  // since the last time. A file that cannot be read is Foreign.
-  static regfile::Verdict Load(HiveFile& file);
+  // Brings the file's contents up to date: reads it only if its stamp moved
+  // (or could not be trusted), parses only if its bytes changed. A file that
+  // cannot be read is Foreign.
+  regfile::Verdict Load(HiveFile& file);
+  static FileStamp StampOf(const struct stat& st);
+  // Records the stamp of the bytes just read or written.
+  void Stamp(HiveFile& file, const struct stat& st) const;
   // Loads under the lock, applies `change`, and replaces the file if it changed.
   template <class Change>
-  static long Update(HiveFile& file, Change&& change);
+  long Update(HiveFile& file, Change&& change);
   static bool WriteAtomically(const std::string& path, const std::string& text);
   Key HandleFor(Hive hive, const std::string& keyPath);
   const OpenKeyPath* PathOf(Key key) const;
@@ -123,6 +152,8 @@ class FileRegistry final : public RegistryApi {
   std::vector<OpenKeyPath> handlePaths_;
   std::unordered_map<std::string, size_t> handleIndex_;
   size_t openHandles_ = 0;
+  size_t fileReads_ = 0;
+  std::chrono::nanoseconds settle_ = std::chrono::milliseconds(100);
 };
 
 }  // namespace qvx::platform

@@ -8,6 +8,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <chrono>
 #include <fstream>
 #include <sstream>
 
@@ -171,29 +172,56 @@ TEST(FileRegistry, SomethingOtherThanAFileReadsAsNoValues) {
   EXPECT_TRUE(std::filesystem::is_directory(folder.File("dir")));
 }
 
+// Each reader sees every write of the other at once, whether its copy of the
+// file counts as settled at once (a write must then change the file's stamp)
+// or only later (the file is read again until then).
 TEST(FileRegistry, WritersShareTheFile) {
+  for (const std::chrono::nanoseconds settle :
+       {std::chrono::nanoseconds(0), std::chrono::nanoseconds(std::chrono::hours(1))}) {
+    TempFolder folder;
+    FileRegistry addin(folder.File("r.txt"));
+    FileRegistry companion(folder.File("r.txt"));
+    addin.SetSettleTime(settle);
+    companion.SetSettleTime(settle);
+    ASSERT_TRUE(companion.SetString(kQvxKey, "DBChoice", "1"));
+    RegistryApi::Key key = 0;
+    ASSERT_EQ(addin.OpenKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead, key),
+              kErrorSuccess);
+    uint32_t type = 0, size = 0;
+    EXPECT_EQ(addin.QueryValueInfoA(key, "AutoSyncToDB", type, size), kErrorFileNotFound);
+    ASSERT_TRUE(companion.SetString(kQvxKey, "AutoSyncToDB", "-1"));
+    ASSERT_TRUE(companion.SetString(kQvxKey, "DBChoice", "2"));  // same size, new text
+    ASSERT_EQ(addin.QueryValueInfoA(key, "AutoSyncToDB", type, size), kErrorSuccess);
+    EXPECT_EQ(size, 3u);
+    std::u16string buffer(2, u'\0');
+    ASSERT_EQ(addin.QueryValueW(key, u"DBChoice", buffer), kErrorSuccess);
+    EXPECT_EQ(buffer[0], u'2');
+    EXPECT_EQ(addin.CloseKey(key), kErrorSuccess);
+    for (int i = 0; i < 20; ++i) {
+      ASSERT_TRUE(addin.SetString(kQvxKey, "A" + std::to_string(i), "a"));
+      ASSERT_TRUE(companion.SetString(kQvxKey, "B" + std::to_string(i), "b"));
+    }
+    EXPECT_EQ(addin.ListValues(kQvxKey).size(), 42u);
+  }
+}
+
+TEST(FileRegistry, ReadsTheFileAgainOnlyWhenItChanged) {
   TempFolder folder;
   FileRegistry addin(folder.File("r.txt"));
   FileRegistry companion(folder.File("r.txt"));
+  addin.SetSettleTime(std::chrono::nanoseconds(0));
   ASSERT_TRUE(companion.SetString(kQvxKey, "DBChoice", "1"));
-  RegistryApi::Key key = 0;
-  ASSERT_EQ(addin.OpenKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead, key),
-            kErrorSuccess);
-  uint32_t type = 0, size = 0;
-  EXPECT_EQ(addin.QueryValueInfoA(key, "AutoSyncToDB", type, size), kErrorFileNotFound);
-  ASSERT_TRUE(companion.SetString(kQvxKey, "AutoSyncToDB", "-1"));
-  ASSERT_TRUE(companion.SetString(kQvxKey, "DBChoice", "2"));  // same size, new text
-  ASSERT_EQ(addin.QueryValueInfoA(key, "AutoSyncToDB", type, size), kErrorSuccess);
-  EXPECT_EQ(size, 3u);
-  std::u16string buffer(2, u'\0');
-  ASSERT_EQ(addin.QueryValueW(key, u"DBChoice", buffer), kErrorSuccess);
-  EXPECT_EQ(buffer[0], u'2');
-  EXPECT_EQ(addin.CloseKey(key), kErrorSuccess);
-  for (int i = 0; i < 20; ++i) {
-    ASSERT_TRUE(addin.SetString(kQvxKey, "A" + std::to_string(i), "a"));
-    ASSERT_TRUE(companion.SetString(kQvxKey, "B" + std::to_string(i), "b"));
-  }
-  EXPECT_EQ(addin.ListValues(kQvxKey).size(), 42u);
+  for (int i = 0; i < 50; ++i) EXPECT_EQ(addin.ReadString(kQvxKey, "DBChoice"), "1");
+  EXPECT_EQ(addin.FileReads(), 1u);
+  ASSERT_TRUE(companion.SetString(kQvxKey, "DBChoice", "2"));
+  for (int i = 0; i < 50; ++i) EXPECT_EQ(addin.ReadString(kQvxKey, "DBChoice"), "2");
+  EXPECT_EQ(addin.FileReads(), 2u);
+  // Its own write of an unchanged file reads nothing, before or after.
+  ASSERT_TRUE(addin.SetString(kQvxKey, "DBChoice", "3"));
+  EXPECT_EQ(addin.ReadString(kQvxKey, "DBChoice"), "3");
+  EXPECT_EQ(addin.FileReads(), 2u);
+  ASSERT_EQ(std::filesystem::remove(folder.File("r.txt")), true);
+  EXPECT_EQ(addin.ReadString(kQvxKey, "DBChoice"), std::nullopt);
 }
 
 TEST(FileRegistry, RegistryCallResults) {
