@@ -92,6 +92,15 @@ void cInspectors::UpdateToolbarsOf(const std::string& entryId) noexcept {
   });
 }
 
+void cInspectors::ForgetToolbar(std::string_view entryId, bool customFields) noexcept {
+  // The bar may be running its Close: the event holds it until that returns.
+  if (customFields) {
+    if (colInspectorsCustomFieldsTB) colInspectorsCustomFieldsTB->Remove(entryId);
+  } else if (colInspectorsTB) {
+    colInspectorsTB->Remove(entryId);
+  }
+}
+
 void cInspectors::ouisInspectors_NewInspector(Line& line, const Object& inspector) {
   AddinState& s = s_;
   line = 10;

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "addin/explorers_event_client.h"
+#include "addin/inspectors_client.h"
 #include "addin/main_module.h"
 #include "reporting/color_codes.h"
 #include "ribbon/ribbon_invalidation.h"
@@ -28,6 +29,11 @@ class AddinUpwardCalls final : public UpwardCalls {
   void subInvalidateRibbon() noexcept override { qvx::subInvalidateRibbon(s_); }
   void LoadProjectColorCodesToOutlook() noexcept override {
     qvx::LoadProjectColorCodesToOutlook(s_);
+  }
+  void ForgetInspectorToolbar(std::string_view entryId, bool customFields) noexcept override {
+    if (s_.main.objInspectorsClient) {
+      s_.main.objInspectorsClient->ForgetToolbar(entryId, customFields);
+    }
   }
 
  private:

@@ -2,6 +2,7 @@
 
 #include "core/host_constants.h"
 #include "core/variant.h"
+#include "state/addin_state.h"
 
 namespace qvx {
 
@@ -29,6 +30,14 @@ void SweepBars(ErrorState& err, const Object& window, std::string_view name) noe
     });
   }
   err.Clear();
+}
+
+void ForgetInspectorBar(AddinState& s, const Object& inspector, bool customFields) noexcept {
+  IgnoreFailure(s.err, [&] {
+    const std::string entryId = inspector.Get("CurrentItem").ToObject().Get("EntryID").ToText();
+    s.upward().ForgetInspectorToolbar(entryId, customFields);
+  });
+  s.err.Clear();
 }
 
 }  // namespace qvx

@@ -5,6 +5,7 @@
 //   Object combo = AddTemporaryControl(bar.Get("Controls").ToObject(), host::msoControlComboBox);
 //   DeleteControl(s.err, combo);                    // Delete, then Nothing
 //   SweepBars(s.err, explorer, "Quorvix");          // every bar of that name
+//   ForgetInspectorBar(s, inspector, false);        // at the inspector's Close
 #pragma once
 
 #include <cstdint>
@@ -15,6 +16,8 @@
 #include "core/trap.h"
 
 namespace qvx {
+
+class AddinState;
 
 // Controls.Add(Type, Id 1, , , Temporary True): a new control at the end.
 Object AddTemporaryControl(const Object& controls, int32_t type);
@@ -31,5 +34,10 @@ void DeleteControl(ErrorState& err, EventField<Owner>& control) noexcept {
 // Deletes every bar named exactly `name` in the window's CommandBars; the
 // pending error is cleared afterwards. Nothing happens without a window.
 void SweepBars(ErrorState& err, const Object& window, std::string_view name) noexcept;
+
+// The inspectors' client forgets the bar (the project bar, or the custom
+// fields bar) kept under the EntryID of the inspector's item. Failures are
+// ignored and the pending error is cleared afterwards.
+void ForgetInspectorBar(AddinState& s, const Object& inspector, bool customFields) noexcept;
 
 }  // namespace qvx

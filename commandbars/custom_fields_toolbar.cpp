@@ -73,9 +73,11 @@ cCustomFieldsTB::cCustomFieldsTB(AddinState& s)
                        self.subRemoveButtons();
                        self.s_.upward().subShutDownOutlook();
                      });
-  // The inspectors' client forgets this bar when the same Close reaches it.
   oueCurrInspector.On("Close", "CustomFieldsToolbar.Inspector.Close",
-                      [](cCustomFieldsTB& self, Line&, EventArgs&) { self.subRemoveButtons(); });
+                      [](cCustomFieldsTB& self, Line&, EventArgs&) {
+                        ForgetInspectorBar(self.s_, self.oueCurrInspector.object(), true);
+                        self.subRemoveButtons();
+                      });
   ouaMonitorApp.On("Quit", "CustomFieldsToolbar.App.Quit",
                    [](cCustomFieldsTB& self, Line&, EventArgs&) {
                      self.subRemoveButtons();

@@ -29,7 +29,8 @@ cStandardTB::cStandardTB(AddinState& s)
       cboProject(*this, s),
       cboTask(*this, s),
       cmdReport(*this, s),
-      cmdWithdrawReport(*this, s) {
+      cmdWithdrawReport(*this, s),
+      cboStaticFields(*this, s) {
   using Args = EventArgs;
   cboProject.On("Change", "ProjectToolbar.Project.Change",
                 [](cStandardTB& self, Line&, Args&) { self.cboProject_Change(); });
@@ -39,6 +40,8 @@ cStandardTB::cStandardTB(AddinState& s)
                [](cStandardTB& self, Line&, Args&) { self.cmdReport_Click(); });
   cmdWithdrawReport.On("Click", "ProjectToolbar.cmdWithdrawReport.Click",
                        [](cStandardTB& self, Line&, Args&) { self.cmdWithdrawReport_Click(); });
+  cboStaticFields.On("Click", "ProjectToolbar.cboStaticFields.Click",
+                     [](cStandardTB& self, Line&, Args&) { self.cboStaticFields_Click(); });
   ouiItems.On("ItemChange", "ProjectToolbar.ouiItems.ItemChange",
               [](cStandardTB& self, Line&, Args& args) {
                 self.ouiItems_ItemChange(args.empty() ? Object{} : args[0].ToObject());
@@ -179,7 +182,7 @@ void cStandardTB::AddControls(Line& line, const Object& controls) {
   shown_.withdrawCaption = "Withdraw Report";
   shown_.withdrawVisible = false;
   line = 80;
-  cboStaticFields = addButton("All Fields...", "Display other fields available", 502);
+  cboStaticFields.Set(addButton("All Fields...", "Display other fields available", 502));
 }
 
 void cStandardTB::subRemoveButtons() noexcept {
@@ -220,6 +223,7 @@ void cStandardTB::oueCurrExplorer_Close() {
 
 // The inspectors' client forgets this bar when the same Close reaches it.
 void cStandardTB::oueCurrInspector_Close() {
+  ForgetInspectorBar(s_, oueCurrInspector.object(), false);
   subRemoveButtons();
 }
 

@@ -78,6 +78,7 @@ class cStandardTB : public std::enable_shared_from_this<cStandardTB> {
   void cboTask_Change();
   void cmdReport_Click();
   void cmdWithdrawReport_Click();
+  void cboStaticFields_Click();
   void ouiItems_ItemChange(const Object& Item);
   void oueCurrExplorer_Close();
   void oueCurrInspector_Close();
@@ -89,7 +90,7 @@ class cStandardTB : public std::enable_shared_from_this<cStandardTB> {
   EventField<cStandardTB> cboTask;
   EventField<cStandardTB> cmdReport;
   EventField<cStandardTB> cmdWithdrawReport;
-  Object cboStaticFields;  // a button, despite its name
+  EventField<cStandardTB> cboStaticFields;  // a button, despite its name
   bool blnFieldsShown = false;
   bool blnExplorerHost = false;
   // What this object last put on its controls, so that the copies to the

@@ -6,6 +6,7 @@
 #include "commandbars/standard_toolbar.h"
 #include "core/dates.h"
 #include "core/text.h"
+#include "reporting/fields_form.h"
 #include "reporting/report_items.h"
 #include "reporting/report_rules.h"
 #include "reporting/tag_selection.h"
@@ -81,6 +82,10 @@ void cStandardTB::cmdReport_Click() {
 
 void cStandardTB::cmdWithdrawReport_Click() {
   WithdrawReportFromDB(s_);
+}
+
+void cStandardTB::cboStaticFields_Click() {
+  ShowStaticFields(s_);
 }
 
 void cStandardTB::ouiItems_ItemChange(const Object& Item) {

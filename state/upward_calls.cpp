@@ -9,5 +9,6 @@ void UpwardCalls::UpdateAllDisplayedToolbars() noexcept {}
 void UpwardCalls::subInvalidateRibbon() noexcept {}
 void UpwardCalls::subInvalidateCustomFieldControls() noexcept {}
 void UpwardCalls::LoadProjectColorCodesToOutlook() noexcept {}
+void UpwardCalls::ForgetInspectorToolbar(std::string_view, bool) noexcept {}
 
 }  // namespace qvx

@@ -37,6 +37,9 @@ class UpwardCalls {
   virtual void subInvalidateCustomFieldControls() noexcept;
   // Copies the projects' colours into the host's category list.
   virtual void LoadProjectColorCodesToOutlook() noexcept;
+  // The inspectors' client forgets the project bar, or the custom fields
+  // bar, that it keeps under this EntryID.
+  virtual void ForgetInspectorToolbar(std::string_view entryId, bool customFields) noexcept;
 };
 
 }  // namespace qvx

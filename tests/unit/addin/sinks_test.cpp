@@ -29,6 +29,22 @@ class Sinks : public TaggingTest {
     for (const auto& entry : *inspectors().colInspectorsTB) keys.push_back(entry.key);
     return keys;
   }
+  // Appointments A and B, each in its own inspector with both bars; B's is active.
+  struct TwoInspectors {
+    std::shared_ptr<sim::SimAppointment> a, b;
+    std::shared_ptr<sim::SimInspector> onA, onB;
+  };
+  TwoInspectors OpenTwoWithBothBars() {
+    Set("AllowAppointmentItems", "-1");
+    Set("CustomList2Active", "-1");
+    Start();
+    TwoInspectors two;
+    two.a = host().AddAppointment("A", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2));
+    two.b = host().AddAppointment("B", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2));
+    two.onA = host().OpenInspector(two.a);
+    two.onB = host().OpenInspector(two.b);
+    return two;
+  }
   bool ListenerExists() {
     return platform::SocketMessageWindows::WindowExists(companion::kClientWindowCaption);
   }
@@ -130,13 +146,7 @@ TEST_F(Sinks, TheHostsQuitTearsDownOnceWhateverIsStillOpen) {
 }
 
 TEST_F(Sinks, RefreshReachesExplorerClientsByKeyAndOnlyTheActiveInspectorsBars) {
-  Set("AllowAppointmentItems", "-1");
-  Set("CustomList2Active", "-1");
-  Start();
-  auto a = host().AddAppointment("A", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2));
-  auto b = host().AddAppointment("B", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2));
-  host().OpenInspector(a);
-  host().OpenInspector(b);
+  const auto [a, b, onA, onB] = OpenTwoWithBothBars();
   auto& bars = *inspectors().colInspectorsTB;
   auto& custom = *inspectors().colInspectorsCustomFieldsTB;
   ASSERT_EQ(bars.Count(), 2u);
@@ -152,6 +162,26 @@ TEST_F(Sinks, RefreshReachesExplorerClientsByKeyAndOnlyTheActiveInspectorsBars) 
   s().main.objExplorersClient->UpdateAllDisplayedToolbars();
   EXPECT_EQ((*bars.Find(b->EntryId()))->toolbarUpdates, 2);
   EXPECT_EQ(s().main.colExplorerClients->Entries()[0].value->toolbarUpdates, 2);
+  EXPECT_TRUE(world.ui().Forms().empty());
+}
+
+TEST_F(Sinks, ClosingAnInspectorForgetsTheBarsKeptUnderItsItem) {
+  const auto [a, b, onA, onB] = OpenTwoWithBothBars();
+  auto& custom = *inspectors().colInspectorsCustomFieldsTB;
+  ASSERT_EQ(StandardKeys(), (std::vector<std::string>{a->EntryId(), b->EntryId()}));
+  ASSERT_EQ(custom.Count(), 2u);
+  std::weak_ptr<cStandardTB> barOfA = *inspectors().colInspectorsTB->Find(a->EntryId());
+
+  host().Close(*onA);
+
+  EXPECT_EQ(StandardKeys(), std::vector<std::string>{b->EntryId()});
+  EXPECT_EQ(custom.Count(), 1u);
+  EXPECT_FALSE(custom.Exists(a->EntryId()));
+  // Nothing holds the closed inspector's bar any more.
+  EXPECT_TRUE(barOfA.expired());
+  host().Close(*onB);
+  EXPECT_TRUE(StandardKeys().empty());
+  EXPECT_EQ(custom.Count(), 0u);
   EXPECT_TRUE(world.ui().Forms().empty());
 }
 
