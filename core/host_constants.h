@@ -41,6 +41,13 @@ inline constexpr int32_t olMailItem = 0;
 inline constexpr int32_t olAppointmentItem = 1;
 inline constexpr int32_t olTaskItem = 3;
 
+// OlViewType, the kind a view is made as.
+inline constexpr int32_t olTableView = 0;
+inline constexpr int32_t olCalendarView = 2;
+
+// OlViewSaveOption: a view of this folder, for everyone who opens it.
+inline constexpr int32_t olViewSaveOptionThisFolderEveryone = 0;
+
 // OlRecurrenceState.
 inline constexpr int32_t olApptNotRecurring = 0;
 inline constexpr int32_t olApptMaster = 1;

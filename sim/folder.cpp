@@ -84,6 +84,7 @@ std::shared_ptr<SimFolder> SimFolder::AddSubfolder(std::string name, int32_t def
 }
 
 std::shared_ptr<SimItem> SimFolder::Adopt(std::shared_ptr<SimItem> item) {
+  ++itemsMade_;
   item->SetParent(shared_from_this());
   return item;
 }

@@ -52,6 +52,8 @@ class SimFolder : public SimObject {
   std::shared_ptr<SimItem> NewItem();
   std::shared_ptr<SimItem> NewItem(std::string_view messageClass);
   std::shared_ptr<SimItem> NewItem(int32_t itemType);
+  // How many items were made in the folder (Items.Add), kept or not.
+  int itemsMade() const { return itemsMade_; }
 
   // The folder's field list; adding a name that is there already does nothing.
   void AddField(std::string_view name, int32_t type);
@@ -76,6 +78,7 @@ class SimFolder : public SimObject {
   std::shared_ptr<SimFolders> folders_;
   std::shared_ptr<SimViews> views_;
   std::vector<FolderField> fields_;
+  int itemsMade_ = 0;
 };
 
 class SimFolders : public SimCollection<SimFolder> {

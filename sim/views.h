@@ -4,7 +4,8 @@
 // Every folder starts with one standard view for its kind ("Calendar",
 // "Simple List" or "Compact"), which can't be deleted. Views.Item by a name
 // that isn't there fails; Views.Add of a name that is there fails. Setting
-// XML to text without a <view> element fails, as the host refuses it.
+// XML to text without a <view> element fails, as the host refuses it
+// (sim/documents/view_document.h reads a document as the host does).
 // Apply makes the view the folder's current view (Explorer.CurrentView).
 #pragma once
 

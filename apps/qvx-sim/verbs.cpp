@@ -22,6 +22,23 @@ void RegisterAllVerbs(VerbTable& table) {
   RegisterBarVerbs(table);
   RegisterWindowVerbs(table);
   RegisterFieldsVerbs(table);
+  RegisterViewVerbs(table);
+}
+
+std::string Joined(const std::vector<std::string>& words) {
+  std::string text;
+  for (const auto& word : words) text += (text.empty() ? "" : " ") + Shown(word);
+  return text.empty() ? "(none)" : text;
+}
+
+void ExpectWords(const std::vector<std::string>& expected, const std::vector<std::string>& seen) {
+  if (expected != seen) throw ExpectationFailed(Joined(expected), Joined(seen));
+}
+
+std::vector<std::string> Rest(const Args& a, size_t from) {
+  std::vector<std::string> words;
+  for (size_t i = from; i < a.size(); ++i) words.push_back(a.At(i));
+  return words;
 }
 
 void ExpectEqual(const std::string& expected, const std::string& seen) {

@@ -5,12 +5,14 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "apps/qvx-sim/runner.h"
 
 namespace qvx::sim {
+class SimFolder;
 class SimItem;
-}
+}  // namespace qvx::sim
 namespace qvx::platform {
 struct FormRecord;
 }
@@ -38,6 +40,11 @@ void RegisterBarVerbs(VerbTable& table);
 void RegisterBarValueVerbs(VerbTable& table);
 void RegisterWindowVerbs(VerbTable& table);
 void RegisterFieldsVerbs(VerbTable& table);
+void RegisterViewVerbs(VerbTable& table);
+
+// A folder by name: "calendar", "tasks", "inbox", or any folder's own name; a
+// usage error when there is none.
+std::shared_ptr<sim::SimFolder> FolderNamed(World& w, const std::string& name);
 
 // The first item with this subject in the active explorer's folder, else in
 // any folder; a usage error when there is none.
@@ -48,6 +55,12 @@ const platform::FormRecord& NextForm(World& w, const std::string& caption);
 
 // Fails the expectation unless the two texts are equal.
 void ExpectEqual(const std::string& expected, const std::string& seen);
+// Words as a script writes them, "(none)" for no word.
+std::string Joined(const std::vector<std::string>& words);
+// Fails the expectation unless the two lists of words are equal.
+void ExpectWords(const std::vector<std::string>& expected, const std::vector<std::string>& seen);
+// The words of `a` from index `from` on.
+std::vector<std::string> Rest(const Args& a, size_t from);
 // A text as a script writes it: control characters as \r \n \t escapes.
 std::string Shown(std::string_view text);
 

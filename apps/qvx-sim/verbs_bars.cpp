@@ -81,22 +81,6 @@ std::vector<std::string> ShownCaptions(sim::SimBarControls& controls) {
   return captions;
 }
 
-std::string Joined(const std::vector<std::string>& words) {
-  std::string text;
-  for (const auto& word : words) text += (text.empty() ? "" : " ") + Shown(word);
-  return text.empty() ? "(none)" : text;
-}
-
-void ExpectWords(const std::vector<std::string>& expected, const std::vector<std::string>& seen) {
-  if (expected != seen) throw ExpectationFailed(Joined(expected), Joined(seen));
-}
-
-std::vector<std::string> Rest(const Args& a, size_t from) {
-  std::vector<std::string> words;
-  for (size_t i = from; i < a.size(); ++i) words.push_back(a.At(i));
-  return words;
-}
-
 std::string YesNo(bool value) {
   return value ? "yes" : "no";
 }

@@ -18,7 +18,6 @@ namespace {
 
 constexpr int32_t kTextProperty = 1;  // olText
 
-// A folder by name: "calendar", "tasks", "inbox", or any folder's own name.
 std::shared_ptr<sim::SimFolder> FindFolder(const std::shared_ptr<sim::SimFolder>& root,
                                            const std::string& name) {
   if (root->name() == name) return root;
@@ -26,15 +25,6 @@ std::shared_ptr<sim::SimFolder> FindFolder(const std::shared_ptr<sim::SimFolder>
     if (auto found = FindFolder(child, name)) return found;
   }
   return nullptr;
-}
-
-std::shared_ptr<sim::SimFolder> FolderNamed(World& w, const std::string& name) {
-  if (name == "calendar") return w.host().Calendar();
-  if (name == "tasks") return w.host().Tasks();
-  if (name == "inbox") return w.host().Inbox();
-  auto folder = FindFolder(w.host().Root(), name);
-  if (!folder) throw UsageError("no folder named \"" + name + "\"");
-  return folder;
 }
 
 void CollectItems(const std::shared_ptr<sim::SimFolder>& folder,
@@ -205,6 +195,15 @@ void AddWindowVerbs(VerbTable& table) {
 }
 
 }  // namespace
+
+std::shared_ptr<sim::SimFolder> FolderNamed(World& w, const std::string& name) {
+  if (name == "calendar") return w.host().Calendar();
+  if (name == "tasks") return w.host().Tasks();
+  if (name == "inbox") return w.host().Inbox();
+  auto folder = FindFolder(w.host().Root(), name);
+  if (!folder) throw UsageError("no folder named \"" + name + "\"");
+  return folder;
+}
 
 std::shared_ptr<sim::SimItem> ItemNamed(World& w, const std::string& subject) {
   std::vector<std::shared_ptr<sim::SimItem>> items;

@@ -1,0 +1,462 @@
+// The 28 prepared view documents, read back from the add-in's resources as
+// the host reads them: each row of the catalogue of documents (kind, name,
+// filter, grouping, order, columns) against what the document holds, and the
+// column dictionary against every column.
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "core/text.h"
+#include "platform/posix/embedded_resources.h"
+#include "sim/documents/view_document.h"
+#include "views/view_xml.h"
+
+namespace qvx::testing {
+namespace {
+
+constexpr std::string_view kUser =
+    "http://schemas.microsoft.com/mapi/string/{00020329-0000-0000-C000-000000000046}/";
+
+using Names = std::vector<std::string>;
+
+struct DocumentRow {
+  std::string_view type;
+  std::string_view resource;
+  std::string_view kind;
+  std::string_view viewname;
+  std::string_view filter;  // user properties without their namespace and quotes; "-": none
+  Names groupby;            // "Heading sort"
+  Names orderby;
+  Names columns;  // after the fixed lead
+};
+
+const Names kRecStartEnd = {"Recurrence asc", "Start asc", "End asc"};
+constexpr std::string_view A = "VIEWS_APPOINTMENT";
+constexpr std::string_view T = "VIEWS_TASK";
+
+const std::vector<DocumentRow>& Rows() {
+  static const std::vector<DocumentRow> rows = {
+      {A,
+       "REPORTED_ID",
+       "table",
+       "Reported ID",
+       "-",
+       {},
+       {"ReportedIDHidden desc", "Start asc", "End asc"},
+       {"ID", "Subject", "Project", "Activity", "Start", "End", "Categories", "Reported Date"}},
+      {A,
+       "REPORTED_STATE",
+       "table",
+       "Reported State",
+       "-",
+       {"Reported desc"},
+       kRecStartEnd,
+       {"ID", "Subject", "Project", "Activity", "Location", "Start", "End", "Categories",
+        "Reported Date"}},
+      {A,
+       "PROJECT_AND_ACTIVITY",
+       "table",
+       "Project and Activity",
+       "-",
+       {"Project asc", "Activity asc"},
+       kRecStartEnd,
+       {"ID", "Subject", "Project", "Activity", "Start", "End", "Recurrence", "Categories",
+        "Reported Date"}},
+      {A,
+       "PROJECT",
+       "table",
+       "Project",
+       "-",
+       {"Project asc"},
+       kRecStartEnd,
+       {"ID", "Subject", "Project", "Activity", "Location", "Start", "End", "Reported Date",
+        "Recurrence", "Categories"}},
+      {A,
+       "ACTIVITY",
+       "table",
+       "Activity",
+       "-",
+       {"Activity asc"},
+       kRecStartEnd,
+       {"ID", "Subject", "Project", "Activity", "Location", "Start", "End", "Reported Date",
+        "Recurrence", "Categories"}},
+      {A,
+       "REPORTED_DATE_(FILTERED)",
+       "table",
+       "Reported Date (Filtered)",
+       "NOT(Reported%20Date IS NULL)",
+       {"Reported Date asc"},
+       kRecStartEnd,
+       {"ID", "Subject", "Project", "Activity", "Location", "Start", "End", "Recurrence",
+        "Categories"}},
+      {A,
+       "DUE_DATE",
+       "table",
+       "Due Date",
+       "-",
+       {"Due By asc"},
+       {"Recurrence asc", "Start asc", "End desc"},
+       {"ID", "Subject", "Project", "Activity", "Start", "End", "Categories", "Reported Date",
+        "Due By"}},
+      {A,
+       "ITEMS_WITHOUT_PROJECT_(FILTERED)",
+       "table",
+       "Items without Project (Filtered)",
+       "ProjectValue IS NULL",
+       {},
+       kRecStartEnd,
+       {"Subject", "Location", "Start", "End", "Recurrence", "Categories"}},
+      {A,
+       "ITEMS_WITHOUT_ACTIVITY_(FILTERED)",
+       "table",
+       "Items without Activity (Filtered)",
+       "ActivityValue IS NULL",
+       {},
+       kRecStartEnd,
+       {"Subject", "Project", "Location", "Start", "End", "Recurrence", "Categories"}},
+      {A,
+       "ITEMS_WITHOUT_PROJECT_AND_ACTIVITY_(FILTERED)",
+       "table",
+       "Items Without Project and Activity (Filtered)",
+       "(ProjectValue IS NULL AND ActivityValue IS NULL)",
+       {},
+       kRecStartEnd,
+       {"Subject", "Location", "Start", "End", "Recurrence", "Categories"}},
+      {A,
+       "REPORTED_ITEMS_(FILTERED)",
+       "table",
+       "Reported Items (Filtered)",
+       "Reported = 1",
+       {"Project asc"},
+       kRecStartEnd,
+       {"ID", "Subject", "Project", "Activity", "Start", "End", "Categories", "Reported Date",
+        "Reported By"}},
+      {A,
+       "UNREPORTED_ITEMS_(FILTERED)",
+       "table",
+       "Unreported Items (Filtered)",
+       "ReportedID IS NULL",
+       {"Project asc"},
+       kRecStartEnd,
+       {"Subject", "Project", "Activity", "Location", "Start", "End", "Recurrence", "Categories"}},
+      {A,
+       "CALENDAR_VIEW_OF_REPORTED_ITEMS_(FILTERED)",
+       "calendar",
+       "Calendar view of Reported Items (Filtered)",
+       "Reported = 1",
+       {},
+       {},
+       {}},
+      {A,
+       "CALENDAR_VIEW_OF_UNREPORTED_ITEMS_(FILTERED)",
+       "calendar",
+       "Calendar view of Unreported Items (Filtered)",
+       "ReportedID IS NULL",
+       {},
+       {},
+       {}},
+      {T,
+       "REPORTED_ID",
+       "table",
+       "Report ID",
+       "-",
+       {},
+       {"ReportedIDHidden asc"},
+       {"ID", "Subject", "Project", "Activity", "Status", "Due Date", "Categories", "Flag Status"}},
+      {T,
+       "REPORTED_STATE",
+       "table",
+       "Reported State",
+       "-",
+       {"Reported desc"},
+       {"Reported Date asc"},
+       {"ID", "Subject", "Project", "Activity", "Due Date", "Categories", "Reported Date",
+        "Reported By", "Flag Status"}},
+      {T,
+       "PROJECT_AND_ACTIVITY",
+       "table",
+       "Project and Activity",
+       "-",
+       {"Project asc", "Activity asc"},
+       {},
+       {"ID", "Subject", "Status", "Due Date", "% Complete", "Categories", "Flag Status",
+        "Reported Date", "Project", "Activity"}},
+      {T,
+       "PROJECT",
+       "table",
+       "Project",
+       "-",
+       {"Project asc"},
+       {"ReportedIDHidden asc"},
+       {"ID", "Subject", "Activity", "Project", "Status", "Due Date", "Categories", "Reported Date",
+        "Reported By", "Flag Status"}},
+      {T,
+       "ACTIVITY",
+       "table",
+       "Activity",
+       "-",
+       {"Activity asc"},
+       {"ReportedIDHidden asc"},
+       {"ID", "Subject", "Project", "Activity", "Status", "Due Date", "Categories",
+        "Reported Date"}},
+      {T,
+       "REPORTED_DATE_(FILTERED)",
+       "table",
+       "Reported Date (Filtered)",
+       "NOT(Reported%20Date IS NULL)",
+       {"Reported Date desc"},
+       {"ReportedIDHidden asc"},
+       {"ID", "Subject", "Project", "Activity", "Reported Date", "Status", "Due Date", "Categories",
+        "Flag Status"}},
+      {T,
+       "DUE_DATE",
+       "table",
+       "Due Date",
+       "",
+       {"Due Date asc"},
+       {"Flag Status desc"},
+       {"ID", "Subject", "Project", "Activity", "Due Date", "% Complete", "Categories",
+        "Flag Status"}},
+      {T,
+       "ITEMS_WITHOUT_PROJECT_(FILTERED)",
+       "table",
+       "Items without Project (Filtered)",
+       "ProjectValue IS NULL",
+       {},
+       {"Due Date asc"},
+       {"Subject", "Activity", "Status", "Due Date", "% Complete", "Categories", "Flag Status"}},
+      {T,
+       "ITEMS_WITHOUT_ACTIVITY_(FILTERED)",
+       "table",
+       "Items without Activity (Filtered)",
+       "ActivityValue IS NULL",
+       {},
+       {"Due Date asc"},
+       {"Subject", "Status", "Due Date", "% Complete", "Categories", "Project", "Flag Status"}},
+      {T,
+       "ITEMS_WITHOUT_PROJECT_AND_ACTIVITY_(FILTERED)",
+       "table",
+       "Items Without Project and Activity (Filtered)",
+       "(ProjectValue IS NULL AND ActivityValue IS NULL)",
+       {},
+       {"Due Date asc"},
+       {"Subject", "Status", "Due Date", "% Complete", "Categories", "Flag Status"}},
+      {T,
+       "REPORTED_ITEMS_(FILTERED)",
+       "table",
+       "Reported Items (Filtered)",
+       "NOT(ReportedID IS NULL)",
+       {"Project asc"},
+       {"Reported Date asc"},
+       {"ID", "Subject", "Project", "Activity", "Reported Date", "Due Date", "Categories",
+        "Flag Status"}},
+      {T,
+       "UNREPORTED_ITEMS_(FILTERED)",
+       "table",
+       "Unreported Items (Filtered)",
+       "ReportedID IS NULL",
+       {"Project asc"},
+       {"Due Date asc"},
+       {"Subject", "Project", "Activity", "Status", "Due Date", "% Complete", "Categories",
+        "Flag Status"}},
+      {T,
+       "CALENDAR_VIEW_OF_REPORTED_ITEMS_(FILTERED)",
+       "calendar",
+       "Calendar view of Reported Items (Filtered)",
+       "NOT(ReportedID IS NULL)",
+       {},
+       {},
+       {}},
+      {T,
+       "CALENDAR_VIEW_OF_UNREPORTED_ITEMS_(FILTERED)",
+       "calendar",
+       "Calendar view of Unreported Items (Filtered)",
+       "ReportedID IS NULL",
+       {},
+       {},
+       {}},
+  };
+  return rows;
+}
+
+struct ColumnDefinition {
+  std::string prop;  // a user property by its name alone
+  std::string type;  // "" : none
+  std::string editable;
+  bool user = false;
+};
+
+const std::map<std::string, ColumnDefinition>& Dictionary() {
+  static const std::map<std::string, ColumnDefinition> columns = {
+      {"Icon", {"http://schemas.microsoft.com/mapi/proptag/0x0fff0102", "", "0"}},
+      {"Attachment", {"urn:schemas:httpmail:hasattachment", "boolean", "0"}},
+      {"Priority", {"urn:schemas:httpmail:importance", "i4", "1"}},
+      {"ID", {"ReportedID", "string", "0", true}},
+      {"Subject", {"urn:schemas:httpmail:subject", "string", "1"}},
+      {"Project", {"ProjectValue", "string", "0", true}},
+      {"Activity", {"ActivityValue", "string", "0", true}},
+      {"Location", {"urn:schemas:calendar:location", "string", "1"}},
+      {"Start", {"urn:schemas:calendar:dtstart", "datetime", "1"}},
+      {"End", {"urn:schemas:calendar:dtend", "datetime", "1"}},
+      {"Reported Date", {"ReportedDate", "datetime", "0", true}},
+      {"Reported By", {"ReportedBy", "string", "0", true}},
+      {"Recurrence",
+       {"http://schemas.microsoft.com/mapi/id/{00062002-0000-0000-C000-000000000046}/82310003",
+        "i4", "1"}},
+      {"Categories", {"urn:schemas-microsoft-com:office:office#Keywords", "", "1"}},
+      {"Due By", {"urn:schemas:calendar:replytime", "datetime", "0"}},
+      {"Status",
+       {"http://schemas.microsoft.com/mapi/id/{00062003-0000-0000-C000-000000000046}/81010003",
+        "i4", "1"}},
+      {"Due Date",
+       {"http://schemas.microsoft.com/mapi/id/{00062003-0000-0000-C000-000000000046}/81050040",
+        "datetime", "1"}},
+      {"% Complete",
+       {"http://schemas.microsoft.com/mapi/id/{00062003-0000-0000-C000-000000000046}/81020005",
+        "float", "1"}},
+      {"Flag Status", {"http://schemas.microsoft.com/mapi/proptag/0x10900003", "i4", "1"}},
+  };
+  return columns;
+}
+
+std::string Unqualified(std::string_view text) {
+  return Replace(Replace(text, kUser, ""), "\"", "");
+}
+
+Names Keys(const sim::ViewElement* list) {
+  Names keys;
+  if (!list) return keys;
+  for (const sim::ViewElement* order : list->Children("order")) {
+    keys.push_back(order->ChildText("heading") + " " + order->ChildText("sort"));
+  }
+  return keys;
+}
+
+std::string Document(const DocumentRow& row) {
+  platform::EmbeddedResources resources(platform::ProductResources());
+  return platform::LoadResData(resources, row.type, row.resource);
+}
+
+std::string Name(const ::testing::TestParamInfo<DocumentRow>& info) {
+  std::string name = std::string(info.param.type) + "_" + std::string(info.param.resource);
+  std::erase_if(name, [](char c) { return c == '(' || c == ')'; });
+  return name;
+}
+
+class ViewDocument : public ::testing::TestWithParam<DocumentRow> {};
+
+TEST_P(ViewDocument, IsEightBitTextWithCrLfTabsAndTheDeclaration) {
+  const std::string xml = Document(GetParam());
+  EXPECT_EQ(xml.rfind("<?xml version=\"1.0\"?>\r\n", 0), 0u);
+  EXPECT_EQ(xml.find("\n"), xml.find("\r\n") + 1) << "CRLF line ends";
+  EXPECT_EQ(Replace(xml, "\r\n", "").find('\n'), std::string::npos);
+  EXPECT_NE(xml.find("\r\n\t<viewname>"), std::string::npos) << "tab indentation";
+  for (const unsigned char c : xml) EXPECT_LT(c, 0x80);
+  const bool strayTail = GetParam().type == T && GetParam().resource == "PROJECT";
+  EXPECT_EQ(xml.substr(xml.rfind("</view>")), strayTail ? "</view>\r\niew>\r\n" : "</view>\r\n");
+}
+
+TEST_P(ViewDocument, HoldsItsRowOfTheCatalogue) {
+  const DocumentRow& row = GetParam();
+  const auto doc = sim::ParseViewDocument(Document(row));
+  ASSERT_TRUE(doc) << "well-formed, with a view root";
+  ASSERT_NE(doc->Attribute("type"), nullptr);
+  EXPECT_EQ(*doc->Attribute("type"), row.kind);
+  EXPECT_EQ(doc->ChildText("viewname"), row.viewname);
+  EXPECT_EQ(doc->ChildText("viewstyle"),
+            "table-layout:fixed;width:100%;font-family:Segoe UI;font-style:normal;"
+            "font-weight:normal;font-size:8pt;color:Black;font-charset:0");
+  EXPECT_FALSE(doc->ChildText("viewtime").empty());
+  const sim::ViewElement* filter = doc->Child("filter");
+  if (row.filter == "-") {
+    EXPECT_EQ(filter, nullptr);
+  } else {
+    ASSERT_NE(filter, nullptr);
+    EXPECT_EQ(Unqualified(filter->text), row.filter);
+  }
+  EXPECT_EQ(Keys(doc->Child("groupby")), row.groupby);
+  EXPECT_EQ(Keys(doc->Child("orderby")), row.orderby);
+  if (row.kind == "calendar") {
+    EXPECT_TRUE(doc->Children("column").empty());
+    EXPECT_EQ(doc->ChildText("calendarstyle"), "font-size:16pt");
+    EXPECT_EQ(doc->ChildText("mode"), row.type == A ? "4" : "2");
+    EXPECT_EQ(doc->ChildText("taskfilter"), row.type == A ? "1" : "0");
+    EXPECT_EQ(doc->Child("embeddedview") != nullptr, row.type == A);
+    EXPECT_EQ(doc->ChildText("startfield"),
+              row.type == A ? "urn:schemas:calendar:dtstart"
+                            : "http://schemas.microsoft.com/mapi/id/"
+                              "{00062003-0000-0000-C000-000000000046}/81040040");
+    return;
+  }
+  Names columns;
+  for (const sim::ViewElement* column : doc->Children("column")) {
+    columns.push_back(column->Child("name") ? column->ChildText("name")
+                                            : column->ChildText("heading"));
+  }
+  Names expected = row.type == A ? Names{"HREF", "Icon", "Attachment"}
+                                 : Names{"HREF", "Icon", "Priority", "Attachment"};
+  expected.insert(expected.end(), row.columns.begin(), row.columns.end());
+  EXPECT_EQ(columns, expected);
+  EXPECT_EQ(doc->ChildText("groupbydefault"), "2");
+  const bool noPreviewPane = row.type == T && row.resource == "DUE_DATE";
+  EXPECT_EQ(doc->Child("previewpane") == nullptr, noPreviewPane);
+}
+
+// Every column as the dictionary defines it, but for the exceptions that
+// stay: a blank activity column, and columns left editable.
+TEST_P(ViewDocument, ColumnsFollowTheDictionary) {
+  const DocumentRow& row = GetParam();
+  const auto doc = sim::ParseViewDocument(Document(row));
+  ASSERT_TRUE(doc);
+  for (const sim::ViewElement* column : doc->Children("column")) {
+    const std::string heading = column->ChildText("heading");
+    if (column->Child("name")) {
+      EXPECT_EQ(column->ChildText("prop"), "DAV:href");
+      EXPECT_EQ(column->ChildText("checkbox"), "1");
+      continue;
+    }
+    SCOPED_TRACE(heading);
+    const auto found = Dictionary().find(heading);
+    ASSERT_NE(found, Dictionary().end());
+    ColumnDefinition def = found->second;
+    if (row.type == A && row.resource == "REPORTED_DATE_(FILTERED)" && heading == "Activity") {
+      def.prop = "TaskValue";
+    }
+    const bool leftEditable = (row.type == A && row.resource == "DUE_DATE" &&
+                               (heading == "ID" || heading == "Project" || heading == "Activity" ||
+                                heading == "Reported Date")) ||
+                              (row.type == T && row.resource == "REPORTED_ITEMS_(FILTERED)" &&
+                               heading == "Reported Date");
+    if (leftEditable) def.editable = "1";
+    EXPECT_EQ(def.user ? Unqualified(column->ChildText("prop")) : column->ChildText("prop"),
+              def.prop);
+    if (def.user) {
+      EXPECT_EQ(column->ChildText("prop"), std::string(kUser) + def.prop);
+      EXPECT_EQ(column->ChildText("userheading"), heading);
+    }
+    EXPECT_EQ(column->ChildText("type"), def.type);
+    EXPECT_EQ(column->ChildText("editable"), def.editable);
+    EXPECT_FALSE(column->ChildText("width").empty());
+    const bool narrow = column->ChildText("width") == "18";
+    EXPECT_EQ(column->ChildText("style"),
+              narrow ? "padding-left:3px;;text-align:center" : "padding-left:3px;;text-align:left");
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ViewDocument, ::testing::ValuesIn(Rows()), Name);
+
+TEST(ViewDocuments, FourteenOfEachTypeAndNoMore) {
+  int appointment = 0;
+  int task = 0;
+  for (const platform::EmbeddedResource& r : platform::ProductResources()) {
+    appointment += r.type == A;
+    task += r.type == T;
+  }
+  EXPECT_EQ(appointment, 14);
+  EXPECT_EQ(task, 14);
+}
+
+}  // namespace
+}  // namespace qvx::testing

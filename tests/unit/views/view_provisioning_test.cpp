@@ -1,0 +1,185 @@
+// Provisioning of prepared views into simulated folders: created once with
+// the folder's fields and the document fitted to the titles, applied
+// afterwards, orphans of an old title deleted, and every fault reported
+// without a half-made view going unreported.
+#include "views/view_provisioning.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "core/host_constants.h"
+#include "sim/documents/view_document.h"
+#include "sim/errors.h"
+#include "sim/folder.h"
+#include "sim/item.h"
+#include "sim/items.h"
+#include "sim/outlook.h"
+#include "sim/views.h"
+#include "unit/reporting/test_addin.h"
+#include "views/view_names.h"
+#include "views/view_xml.h"
+
+namespace qvx::testing {
+namespace {
+
+struct Provisioning : ::testing::Test, sim::SimulatedHost, TestAddin {
+  Provisioning() {
+    ConnectHost(host);
+    settings().ProjectTitle = "Project";
+    settings().ActivityTitle = "Activity";
+  }
+  void Load(const std::shared_ptr<sim::SimFolder>& folder, std::string_view name) {
+    LoadView(s, folder->AsObject(), name, GetViewResName(s, name));
+  }
+  std::optional<sim::ViewElement> Document(sim::SimFolder& folder, std::string_view name) {
+    return sim::ParseViewDocument(folder.views().Find(name)->xml());
+  }
+};
+
+TEST_F(Provisioning, AFirstLoadCreatesFillsSavesAndAppliesTheViewWithTheFoldersFields) {
+  const auto calendar = host.Calendar();
+  Load(calendar, "Reported State");
+  const auto view = calendar->views().Find("Reported State");
+  ASSERT_TRUE(view);
+  EXPECT_EQ(view->viewType(), host::olTableView);
+  EXPECT_EQ(view->xml(), GetViewXML(s, kAppointmentViews, "REPORTED_STATE"));
+  EXPECT_EQ(view->saves(), 1);
+  EXPECT_EQ(calendar->views().current(), view);
+  EXPECT_EQ(calendar->itemsMade(), 1) << "one throw-away item";
+  EXPECT_EQ(calendar->items().list().size(), 0u) << "deleted again";
+  std::vector<std::pair<std::string, int32_t>> fields;
+  for (const auto& f : calendar->fields()) fields.emplace_back(f.name, f.type);
+  EXPECT_EQ(fields, (std::vector<std::pair<std::string, int32_t>>{{"ProjectValue", 1},
+                                                                  {"ActivityValue", 1},
+                                                                  {"Field1Value", 1},
+                                                                  {"Field2Value", 1},
+                                                                  {"Field3Value", 1},
+                                                                  {"Field4Value", 1},
+                                                                  {"Field5Value", 1},
+                                                                  {"Field6Value", 1},
+                                                                  {"Field7Value", 1},
+                                                                  {"Field8Value", 1},
+                                                                  {"ReportedDate", 5},
+                                                                  {"Reported Date", 1},
+                                                                  {"ReportedID", 1},
+                                                                  {"ReportedIDHidden", 1},
+                                                                  {"Reported", 6},
+                                                                  {"ReportedBy", 1}}));
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(Provisioning, ALaterLoadOnlyAppliesAndKeepsTheUsersChanges) {
+  const auto tasks = host.Tasks();
+  Load(tasks, "Due Date");
+  const auto view = tasks->views().Find("Due Date");
+  const std::string changed = "<?xml version=\"1.0\"?>\r\n<view type=\"table\"/>";
+  view->SetXml(changed);
+  tasks->views().SetCurrent(tasks->views().Find("Simple List"));
+  settings().ProjectTitle = "Client";
+  Load(tasks, "Due Date");
+  EXPECT_EQ(view->xml(), changed);
+  EXPECT_EQ(view->saves(), 1);
+  EXPECT_EQ(view->applies(), 2);
+  EXPECT_EQ(tasks->views().current(), view);
+  EXPECT_EQ(tasks->itemsMade(), 1) << "no item, no resource the second time";
+}
+
+TEST_F(Provisioning, TheTwoCalendarViewsAreCalendarsWhateverTheTitles) {
+  settings().ProjectTitle = "Reported";
+  const auto tasks = host.Tasks();
+  for (const char* name : {"Calendar view of Reported Items (Filtered)",
+                           "Calendar view of Unreported Items (Filtered)"}) {
+    Load(tasks, name);
+    ASSERT_TRUE(tasks->views().Find(name));
+    EXPECT_EQ(tasks->views().Find(name)->viewType(), host::olCalendarView);
+  }
+}
+
+TEST_F(Provisioning, TheProjectTitleReachesHeadingsAndNameButTheActivityHeadingStays) {
+  settings().ProjectTitle = "R&D <Lab>";
+  settings().ActivityTitle = "Job";
+  const auto calendar = host.Calendar();
+  Load(calendar, "R&D <Lab> and Job");
+  const auto doc = Document(*calendar, "R&D <Lab> and Job");
+  ASSERT_TRUE(doc) << "the titled document stays well-formed";
+  EXPECT_EQ(doc->ChildText("viewname"), "Project and Activity")
+      << "the view names itself in its default words";
+  std::vector<std::string> headings;
+  for (const auto* column : doc->Children("column"))
+    headings.push_back(column->ChildText("heading"));
+  EXPECT_NE(std::find(headings.begin(), headings.end(), "R&D <Lab>"), headings.end());
+  EXPECT_NE(std::find(headings.begin(), headings.end(), "Activity"), headings.end());
+  EXPECT_EQ(doc->Child("groupby")->Children("order")[0]->ChildText("userheading"), "R&D <Lab>");
+}
+
+TEST_F(Provisioning, EveryDocumentOfEveryViewStaysWellFormedUnderTitlesThatNeedEscaping) {
+  settings().ProjectTitle = "A&B";
+  settings().ActivityTitle = "<C>";
+  const auto calendar = host.Calendar();
+  const auto tasks = host.Tasks();
+  for (const char* name :
+       {"Reported ID", "Reported State", "[PROJECT] and [ACTIVITY]", "[PROJECT]", "[ACTIVITY]",
+        "Reported Date (Filtered)", "Due Date", "Items without [PROJECT] (Filtered)"}) {
+    const std::string shown = GetActualViewName(s, name);
+    for (const auto& folder : {calendar, tasks}) {
+      Load(folder, shown);
+      ASSERT_TRUE(folder->views().Find(shown)) << shown;
+      EXPECT_TRUE(Document(*folder, shown)) << shown;
+    }
+  }
+  EXPECT_TRUE(Reports().empty());
+}
+
+TEST_F(Provisioning, AFolderOfMailGetsAnEmptyViewAndAReport) {
+  const auto inbox = host.Inbox();
+  Load(inbox, "Reported ID");
+  EXPECT_EQ(inbox->itemsMade(), 0) << "no throw-away item";
+  ASSERT_TRUE(inbox->views().Find("Reported ID")) << "created before the XML was refused";
+  EXPECT_TRUE(Reported("Views.LoadView"));
+}
+
+TEST_F(Provisioning, ANameWithoutAResourceLeavesTheViewEmptyAndIsNotFilledLater) {
+  settings().ProjectTitle = "Date";
+  const auto tasks = host.Tasks();
+  Load(tasks, "Due Date");  // "Due PROJECT" has no document
+  const auto view = tasks->views().Find("Due Date");
+  ASSERT_TRUE(view);
+  EXPECT_TRUE(Reported("Views.GetViewXML"));
+  const std::string empty = view->xml();
+  settings().ProjectTitle = "Project";
+  Load(tasks, "Due Date");
+  EXPECT_EQ(view->xml(), empty);
+  EXPECT_EQ(view->applies(), 1);
+}
+
+TEST_F(Provisioning, AViewsCollectionThatFailsIsReportedAndNothingIsMade) {
+  host.FailAt("Session.GetDefaultFolder(9).Views", sim::hresult::kFail, "The operation failed.");
+  const auto calendar = host.Calendar();
+  Load(calendar, "Reported ID");
+  EXPECT_TRUE(Reported("Views.LoadView"));
+  EXPECT_EQ(calendar->itemsMade(), 0);
+}
+
+TEST_F(Provisioning, OrphansAreTheDefaultTitleNamesAndAnyItemsWithout) {
+  settings().ProjectTitle = "Client";
+  const auto calendar = host.Calendar();
+  auto& views = calendar->views();
+  for (const char* name : {"Project", "Activity", "Project and Activity", "My Items without dates",
+                           "Projects", "items without"}) {
+    views.Add(name, host::olTableView, 0);
+  }
+  for (const char* name : {"Project", "Activity", "Project and Activity", "My Items without dates",
+                           "Projects", "items without"}) {
+    DeleteOrphanedViews(s, calendar->AsObject(), name);
+  }
+  std::vector<std::string> left;
+  for (const auto& v : views.Enumerate()) left.push_back(v.ToObject().Get("Name").ToText());
+  EXPECT_EQ(left, (std::vector<std::string>{"Calendar", "Projects", "items without"}))
+      << "names are compared whole, case and all";
+  DeleteView(s, calendar->AsObject(), "Not there");
+  EXPECT_TRUE(Reports().empty());
+}
+
+}  // namespace
+}  // namespace qvx::testing
