@@ -40,4 +40,13 @@ void ForgetInspectorBar(AddinState& s, const Object& inspector, bool customField
   s.err.Clear();
 }
 
+Object ShownItem(ErrorState& err, const Object& explorer, const Object& inspector) noexcept {
+  Object item;
+  Quietly(err, [&] {
+    item = explorer ? explorer.Get("Selection").ToObject().Call("Item", {Variant(1)}).ToObject()
+                    : inspector.Get("CurrentItem").ToObject();
+  });
+  return item;
+}
+
 }  // namespace qvx

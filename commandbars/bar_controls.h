@@ -6,6 +6,7 @@
 //   DeleteControl(s.err, combo);                    // Delete, then Nothing
 //   SweepBars(s.err, explorer, "Quorvix");          // every bar of that name
 //   ForgetInspectorBar(s, inspector, false);        // at the inspector's Close
+//   Object item = ShownItem(s.err, explorer, inspector);  // what a bar shows
 #pragma once
 
 #include <cstdint>
@@ -34,6 +35,11 @@ void DeleteControl(ErrorState& err, EventField<Owner>& control) noexcept {
 // Deletes every bar named exactly `name` in the window's CommandBars; the
 // pending error is cleared afterwards. Nothing happens without a window.
 void SweepBars(ErrorState& err, const Object& window, std::string_view name) noexcept;
+
+// The item a bar shows: the explorer's first selected item, or, without an
+// explorer, the inspector's item. Nothing when it cannot be read; no failure
+// is left pending.
+Object ShownItem(ErrorState& err, const Object& explorer, const Object& inspector) noexcept;
 
 // The inspectors' client forgets the bar (the project bar, or the custom
 // fields bar) kept under the EntryID of the inspector's item. Failures are

@@ -6,6 +6,7 @@
 #include "reporting/tag_selection.h"
 #include "settings/local_settings.h"
 #include "settings/my_settings.h"
+#include "settings/settings_lists.h"
 #include "settings/single_list.h"
 #include "state/addin_state.h"
 #include "support/endpoints.h"
@@ -17,30 +18,6 @@ namespace {
 
 constexpr std::string_view kBarName = "Quorvix Custom Fields";
 constexpr int16_t kPositionSelector = 1;
-
-// One custom list as the settings describe it.
-struct ListSettings {
-  bool active;
-  const std::string& name;
-  cSingleList& list;
-};
-
-ListSettings ListOf(const cMySettings& settings, int field) {
-  switch (field) {
-    case 1:
-      return {settings.CustomList1Active != 0, settings.CustomList1Name,
-              *settings.CustomField1List};
-    case 2:
-      return {settings.CustomList2Active != 0, settings.CustomList2Name,
-              *settings.CustomField2List};
-    case 3:
-      return {settings.CustomList3Active != 0, settings.CustomList3Name,
-              *settings.CustomField3List};
-    default:
-      return {settings.CustomList4Active != 0, settings.CustomList4Name,
-              *settings.CustomField4List};
-  }
-}
 
 std::string ItemProperty(int field) {
   return "Field" + std::to_string(field) + "Value";
@@ -168,7 +145,7 @@ void cCustomFieldsTB::subAddButtons() noexcept {
     line = 40;
     std::array<bool, 4> visible{};
     for (int field = 1; field <= 4; ++field) {
-      const ListSettings list = ListOf(settings, field);
+      const CustomSlot list = CustomSlotOf(settings, field);
       const Object combo = AddTemporaryControl(controls, host::msoControlComboBox);
       Combo(field).Set(combo);
       combo.Put("Style", Variant(host::msoComboLabel));
@@ -182,7 +159,7 @@ void cCustomFieldsTB::subAddButtons() noexcept {
       combo.Put("BeginGroup", Variant(true));
       combo.Put("Width", Variant(int32_t{250}));
       std::string none;
-      list.list.PopulateComboList(s, combo, none, true);
+      list.list->PopulateComboList(s, combo, none, true);
     }
     line = 50;
     for (int field = 1; field <= 4; ++field) {
@@ -208,7 +185,7 @@ void cCustomFieldsTB::ShowFields(const Object& objItem) noexcept {
         !GetFieldValueFromItem(s, objItem, "ReportedID", VarType::String).ToText().empty();
     line = 20;
     for (int field = 1; field <= 4; ++field) {
-      if (!ListOf(settings, field).active) continue;
+      if (!CustomSlotOf(settings, field).active) continue;
       const Object& combo = Combo(field).object();
       combo.Put("Enabled", Variant(true));
       bool enabled = true;
@@ -234,7 +211,7 @@ void cCustomFieldsTB::EmptyAll() noexcept {
   AddinState& s = s_;
   for (int field = 1; field <= 4; ++field) {
     bool active = false;
-    IgnoreFailure(s.err, [&] { active = ListOf(s.main.Settings(), field).active; });
+    IgnoreFailure(s.err, [&] { active = CustomSlotOf(s.main.Settings(), field).active; });
     if (!active) continue;
     const Object& combo = Combo(field).object();
     IgnoreFailure(s.err, [&] { combo.Put("Enabled", Variant(true)); });
@@ -258,11 +235,11 @@ void cCustomFieldsTB::UpdateToolbar() noexcept {
     for (int field = 1; field <= 4; ++field) {
       const Object& combo = Combo(field).object();
       if (!combo) continue;
-      const ListSettings list = ListOf(settings, field);
+      const CustomSlot list = CustomSlotOf(settings, field);
       if (list.active) {
         if (combo.Get("Enabled").ToBoolean()) {
           std::string text = combo.Get("Text").ToText();
-          list.list.PopulateComboList(s, combo, text, false);
+          list.list->PopulateComboList(s, combo, text, false);
         }
       }
       combo.Put("Visible", Variant(list.active));
@@ -273,15 +250,7 @@ void cCustomFieldsTB::UpdateToolbar() noexcept {
       }
     }
     line = 30;
-    Object item;
-    Quietly(s.err, [&] {
-      item = oueCurrExplorer ? oueCurrExplorer.object()
-                                   .Get("Selection")
-                                   .ToObject()
-                                   .Call("Item", {Variant(1)})
-                                   .ToObject()
-                             : oueCurrInspector.object().Get("CurrentItem").ToObject();
-    });
+    const Object item = ShownItem(s.err, oueCurrExplorer.object(), oueCurrInspector.object());
     if (item) ShowFields(item);
     line = 40;
     if (oueCurrInspector) s.upward().subInvalidateRibbon();

@@ -3,10 +3,10 @@
 #include "commandbars/standard_toolbar.h"
 
 #include "commandbars/bar_controls.h"
-#include "commandbars/bar_lists.h"
 #include "core/host_constants.h"
 #include "settings/local_settings.h"
 #include "settings/my_settings.h"
+#include "settings/settings_lists.h"
 #include "settings/single_list.h"
 #include "state/addin_state.h"
 #include "support/endpoints.h"

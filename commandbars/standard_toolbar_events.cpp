@@ -2,8 +2,9 @@
 // task completed in the explorer's folder.
 #include <cmath>
 
-#include "commandbars/bar_lists.h"
+#include <memory>
 #include "commandbars/standard_toolbar.h"
+
 #include "core/dates.h"
 #include "core/text.h"
 #include "reporting/fields_form.h"
@@ -12,6 +13,7 @@
 #include "reporting/tag_selection.h"
 #include "reporting/withdraw_report.h"
 #include "settings/my_settings.h"
+#include "settings/settings_lists.h"
 #include "settings/single_list.h"
 #include "settings/tasks_per_project.h"
 #include "settings/tasks_per_project_list.h"
@@ -42,7 +44,7 @@ void cStandardTB::cboProject_Change() {
     if (ProjectList(s).dicList.Exists(Trim(projectText))) {
       cMySettings& settings = s.main.Settings();
       if (settings.MyProjectsTasks->dicList.Count() == 0) settings.ReadSettings(s);
-      cTasksPerProject* activities = nullptr;
+      std::shared_ptr<cTasksPerProject> activities;
       IgnoreFailure(s.err, [&] { activities = ProjectActivities(s, Trim(projectText)); });
       if (activities) {
         IgnoreFailure(s.err, [&] {

@@ -1,9 +1,10 @@
 // cStandardTB: what the bar shows of an item, and the copies of it that the
 // ribbon reads.
-#include "commandbars/bar_lists.h"
+#include "commandbars/bar_controls.h"
 #include "commandbars/standard_toolbar.h"
 #include "core/text.h"
 #include "settings/my_settings.h"
+#include "settings/settings_lists.h"
 #include "settings/single_list.h"
 #include "settings/tasks_per_project.h"
 #include "state/addin_state.h"
@@ -77,7 +78,7 @@ void cStandardTB::ShowFields(const Object& objItem) noexcept {
       const std::string_view trimmed = Trim(project);
       if (ProjectList(s).dicList.Exists(trimmed)) {
         Quietly(s.err, [&] {
-          if (cTasksPerProject* activities = ProjectActivities(s, trimmed)) {
+          if (const auto activities = ProjectActivities(s, trimmed)) {
             std::string none;
             activities->PopulateComboList(s, cboTask.object(), none, false);
           }
@@ -182,22 +183,14 @@ void cStandardTB::UpdateToolbar() noexcept {
       ProjectList(s).PopulateComboList(s, project, projectText, false);
       if (ProjectList(s).dicList.Exists(Trim(projectText))) {
         Quietly(s.err, [&] {
-          if (cTasksPerProject* activities = ProjectActivities(s, Trim(projectText))) {
+          if (const auto activities = ProjectActivities(s, Trim(projectText))) {
             std::string taskText = task.Get("Text").ToText();
             activities->PopulateComboList(s, task, taskText, false);
           }
         });
       }
       line = 30;
-      Object item;
-      Quietly(s.err, [&] {
-        item = oueCurrExplorer ? oueCurrExplorer.object()
-                                     .Get("Selection")
-                                     .ToObject()
-                                     .Call("Item", {Variant(1)})
-                                     .ToObject()
-                               : oueCurrInspector.object().Get("CurrentItem").ToObject();
-      });
+      const Object item = ShownItem(s.err, oueCurrExplorer.object(), oueCurrInspector.object());
       if (item) ShowFields(item);
       line = 40;
       // Both end enabled, even on a reported item that ShowFields disabled.

@@ -9,6 +9,7 @@
 #include "reporting/key_filter.h"
 #include "reporting/tag_item.h"
 #include "settings/my_settings.h"
+#include "settings/settings_lists.h"
 #include "settings/single_list.h"
 #include "settings/tasks_per_project.h"
 #include "settings/tasks_per_project_list.h"
@@ -18,38 +19,6 @@
 
 namespace qvx {
 namespace {
-
-// The settings of custom list N (1 to 4) and custom field N (5 to 10).
-struct CustomSlot {
-  std::string name;
-  bool active;
-  std::shared_ptr<cSingleList> list;  // lists only
-};
-
-CustomSlot SlotOf(const cMySettings& m, int n) {
-  switch (n) {
-    case 1:
-      return {m.CustomList1Name, m.CustomList1Active != 0, m.CustomField1List};
-    case 2:
-      return {m.CustomList2Name, m.CustomList2Active != 0, m.CustomField2List};
-    case 3:
-      return {m.CustomList3Name, m.CustomList3Active != 0, m.CustomField3List};
-    case 4:
-      return {m.CustomList4Name, m.CustomList4Active != 0, m.CustomField4List};
-    case 5:
-      return {m.CustomField5Name, m.CustomField5Active != 0, nullptr};
-    case 6:
-      return {m.CustomField6Name, m.CustomField6Active != 0, nullptr};
-    case 7:
-      return {m.CustomField7Name, m.CustomField7Active != 0, nullptr};
-    case 8:
-      return {m.CustomField8Name, m.CustomField8Active != 0, nullptr};
-    case 9:
-      return {m.CustomField9Name, m.CustomField9Active != 0, nullptr};
-    default:
-      return {m.CustomField10Name, m.CustomField10Active != 0, nullptr};
-  }
-}
 
 // The box of field N: a combo box for the lists, a text box for the others.
 std::string BoxOf(int n) {
@@ -97,7 +66,8 @@ void frmFields::LoadFields(const Object& objSelection) noexcept {
     Control("lblProject").Put("Caption", Variant(settings.ProjectTitle));
     Control("lblTask").Put("Caption", Variant(settings.ActivityTitle));
     for (int n = 1; n <= 10; ++n) {
-      Control("lblField" + std::to_string(n)).Put("Caption", Variant(SlotOf(settings, n).name));
+      Control("lblField" + std::to_string(n))
+          .Put("Caption", Variant(CustomSlotOf(settings, n).name));
     }
     line = 30;
     std::string project;
@@ -121,7 +91,7 @@ void frmFields::LoadFields(const Object& objSelection) noexcept {
     }
     line = 60;
     for (int n = 1; n <= 4; ++n) {
-      const CustomSlot slot = SlotOf(settings, n);
+      const CustomSlot slot = CustomSlotOf(settings, n);
       std::string value =
           MultipleSelection ? std::string() : ReadTrimmed(s, objSelection, FieldProperty(n));
       slot.list->PopulateComboList(s, Control(BoxOf(n)), value, true);
@@ -138,7 +108,7 @@ void frmFields::LoadFields(const Object& objSelection) noexcept {
             Variant(GetFieldValueFromItem(s, objSelection, FieldProperty(n), VarType::String)
                         .ToText()));
       }
-      if (!SlotOf(settings, n).active) {
+      if (!CustomSlotOf(settings, n).active) {
         Disable(Control("lblField" + std::to_string(n)));
         Disable(Control(BoxOf(n)));
       }

@@ -3,11 +3,11 @@
 #include <memory>
 
 #include "reporting/tag_values.h"
-#include "ribbon/drop_down_lists.h"
 #include "ribbon/inspector_pools.h"
 #include "ribbon/ribbon_contexts.h"
 #include "ribbon/ribbon_control.h"
 #include "ribbon/ribbon_invalidation.h"
+#include "settings/settings_lists.h"
 #include "settings/single_list.h"
 #include "settings/tasks_per_project.h"
 #include "state/addin_state.h"
@@ -32,7 +32,7 @@ int16_t GetItemCount(AddinState& s, const Variant& control) {
   const std::string id = ControlId(control);
   size_t n = 0;
   if (IsFamily(id, "cboProject")) {
-    n = DropDownProjectList(s).dicList.Count();
+    n = ProjectList(s).dicList.Count();
   } else if (id == "cboTask") {
     const auto activities = FindActivities(s, InspectorProject(s, ControlContext(control)));
     if (activities) n = activities->dicList.Count();
@@ -56,7 +56,7 @@ std::string GetItemLabel(AddinState& s, const Variant& control, int16_t index) n
     const std::string id = ControlId(control);
     line = 20;
     if (IsFamily(id, "cboProject")) {
-      result = DropDownProjectList(s).GetItem(s, index);
+      result = ProjectList(s).GetItem(s, index);
       return;
     }
     line = 30;
@@ -90,7 +90,7 @@ int16_t GetSelectedItemIndex(AddinState& s, const Variant& control) noexcept {
     line = 20;
     if (id == "cboProject") {
       const Object inspector = ControlContext(control);
-      result = DropDownProjectList(s).getItemIndex(s, InspectorProject(s, inspector));
+      result = ProjectList(s).getItemIndex(s, InspectorProject(s, inspector));
       return;
     }
     line = 30;
@@ -114,7 +114,7 @@ int16_t GetSelectedItemIndex(AddinState& s, const Variant& control) noexcept {
     }
     line = 50;
     if (IsSuffixedForm(id, "cboProject")) {
-      result = DropDownProjectList(s).getItemIndex(s, explorer.SELECTED_PROJECT_VALUE);
+      result = ProjectList(s).getItemIndex(s, explorer.SELECTED_PROJECT_VALUE);
       return;
     }
     line = 60;
@@ -143,7 +143,7 @@ void OnActionDropDown(AddinState& s, const Variant& control, std::string_view,
     ExplorerRibbonValues& explorer = s.ribbon.explorer;
     line = 20;
     if (id == "cboProject") {
-      const std::string value = DropDownProjectList(s).GetItem(s, selectedIndex);
+      const std::string value = ProjectList(s).GetItem(s, selectedIndex);
       SetInspectorRibbonValueStandardTB(s, ControlContext(control),
                                         "SELECTED_INSPECTOR_PROJECT_VALUE", Variant(value));
       Main::TagProjectValueToItem(s, value);
@@ -177,7 +177,7 @@ void OnActionDropDown(AddinState& s, const Variant& control, std::string_view,
     }
     line = 50;
     if (IsSuffixedForm(id, "cboProject")) {
-      explorer.SELECTED_PROJECT_VALUE = DropDownProjectList(s).GetItem(s, selectedIndex);
+      explorer.SELECTED_PROJECT_VALUE = ProjectList(s).GetItem(s, selectedIndex);
       const std::string value = explorer.SELECTED_PROJECT_VALUE;  // tagging may change it
       Main::TagProjectValueToItem(s, value);
       subInvalidateActivityControls(s);
