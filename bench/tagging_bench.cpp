@@ -59,7 +59,7 @@ void BM_TagSelection(benchmark::State& state) {
   if (!world.Clean()) state.SkipWithError("a failure was reported");
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
-BENCHMARK(BM_TagSelection)->Arg(10)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_TagSelection)->Arg(10)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 // The ribbon's project choice: the activity cleared, then the project with
 // its start date, across the selection.
@@ -99,7 +99,7 @@ void BM_LoadProjectColorCodes(benchmark::State& state) {
   if (!world.Clean()) state.SkipWithError("a failure was reported");
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
-BENCHMARK(BM_LoadProjectColorCodes)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_LoadProjectColorCodes)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace qvx::bench

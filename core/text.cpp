@@ -1,5 +1,6 @@
 #include "core/text.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace qvx {
@@ -215,6 +216,18 @@ std::vector<std::string> Split(std::string_view s, std::string_view delimiter) {
   }
   parts.emplace_back(s.substr(pos));
   return parts;
+}
+
+size_t CountOf(std::string_view s, std::string_view delimiter) {
+  if (delimiter.empty()) return 0;
+  if (delimiter.size() == 1)
+    return static_cast<size_t>(std::count(s.begin(), s.end(), delimiter[0]));
+  size_t count = 0;
+  for (size_t hit = s.find(delimiter); hit != std::string_view::npos;
+       hit = s.find(delimiter, hit + delimiter.size())) {
+    ++count;
+  }
+  return count;
 }
 
 std::string Join(const std::vector<std::string>& parts, std::string_view delimiter) {

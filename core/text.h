@@ -33,6 +33,46 @@ std::string Replace(std::string_view s, std::string_view find, std::string_view 
 std::vector<std::string> Split(std::string_view s, std::string_view delimiter);
 std::string Join(const std::vector<std::string>& parts, std::string_view delimiter);
 
+// The parts of Split as views into the text, one at a time, with the same
+// edge cases and no copies:
+//
+//   PartWalker lines(text, "\r\n");
+//   for (std::string_view line; lines.Next(line);) Use(line);
+class PartWalker {
+ public:
+  PartWalker(std::string_view s, std::string_view delimiter)
+      : rest_(s), delimiter_(delimiter), done_(s.empty()) {}
+  bool Next(std::string_view& part) {
+    if (done_) return false;
+    const size_t hit = delimiter_.empty() ? std::string_view::npos : rest_.find(delimiter_);
+    if (hit == std::string_view::npos) {
+      part = rest_;
+      done_ = true;
+    } else {
+      part = rest_.substr(0, hit);
+      rest_.remove_prefix(hit + delimiter_.size());
+    }
+    return true;
+  }
+
+ private:
+  std::string_view rest_;
+  std::string_view delimiter_;
+  bool done_;
+};
+
+// Split's first parts as views: fills out[0..n) and returns n, at most N.
+template <size_t N>
+size_t FirstParts(std::string_view s, std::string_view delimiter, std::string_view (&out)[N]) {
+  PartWalker parts(s, delimiter);
+  size_t n = 0;
+  while (n < N && parts.Next(out[n])) ++n;
+  return n;
+}
+
+// How often the delimiter occurs, without overlaps.
+size_t CountOf(std::string_view s, std::string_view delimiter);
+
 // Character-based (code point) Len, Left, Mid, Right.
 size_t Len(std::string_view s);
 std::string Left(std::string_view s, size_t count);

@@ -228,6 +228,18 @@ std::string Variant::ToText() const {
 int16_t Variant::ToInteger() const {
   return ToIntegral<int16_t>(*this);
 }
+int16_t TextToInteger(std::string_view text) {
+  if (!text.empty() && text.size() <= 4) {
+    int value = 0;
+    for (const char c : text) {
+      if (c < '0' || c > '9') return Variant(std::string(text)).ToInteger();
+      value = value * 10 + (c - '0');
+    }
+    return static_cast<int16_t>(value);
+  }
+  return Variant(std::string(text)).ToInteger();
+}
+
 int32_t Variant::ToLong() const {
   return ToIntegral<int32_t>(*this);
 }

@@ -123,6 +123,10 @@ bool ParseNumber(std::string_view text, double& out);
 std::string EnUsDoubleToText(double value);
 std::string EnUsCurrencyToText(Currency value);
 
+// CInt of a text: Variant(text).ToInteger(), with plain digits of up to
+// four places ("2011", "007") read directly.
+int16_t TextToInteger(std::string_view text);
+
 // Rounds half to even, as the runtime's integer conversions do.
 double BankersRound(double value);
 

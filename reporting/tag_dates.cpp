@@ -69,8 +69,8 @@ void ApplyEndOrDueDateToTaggedItem(AddinState& s, const Object& objItem,
     if (entry == nullptr || !*entry) return;
     line = 30;
     const auto* activity = (*entry)->dicList.Find(strActivity);
-    if (activity == nullptr || !*activity) return;
-    const DateValue due = (*activity)->DueDate;
+    if (activity == nullptr) return;
+    const DateValue due = activity->DueDate;
     line = 40;
     if (!IsUsableDate(due)) return;
     line = 50;

@@ -1,10 +1,18 @@
 #include "schema/date_codecs.h"
 
-#include <vector>
+#include <charconv>
 
 #include "core/text.h"
 
 namespace qvx {
+namespace {
+
+void AppendNumber(std::string& out, int number) {
+  char digits[12];
+  out.append(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+}
+
+}  // namespace
 
 bool IsNoDateYear(int year) noexcept {
   return year == 1899 || year == 4501 || year == 1;
@@ -20,9 +28,24 @@ std::string ToQuorvixDateFormat(FailureSink& s, const Variant& date) {
       });
 }
 
+void AppendQuorvixDateText(FailureSink& s, std::string& out, const DateValue& date) {
+  const DateParts p = DecomposeDate(date);
+  if (IsNoDateYear(p.year)) return;
+  if (!(date.serial >= kMinDateSerial && date.serial < kMaxDateSerial + 1.0)) {
+    out += ToQuorvixDateFormat(s, date);  // reports the overflow
+    return;
+  }
+  AppendNumber(out, p.year);
+  out += '-';
+  AppendNumber(out, p.month);
+  out += '-';
+  AppendNumber(out, p.day);
+}
+
 std::string DateToQuorvixText(FailureSink& s, const DateValue& date) {
-  if (IsNoDateYear(DecomposeDate(date).year)) return {};
-  return ToQuorvixDateFormat(s, date);
+  std::string out;
+  AppendQuorvixDateText(s, out, date);
+  return out;
 }
 
 DateValue FromQuorvixDateFormat(FailureSink& s, std::string_view text) {
@@ -32,15 +55,16 @@ DateValue FromQuorvixDateFormat(FailureSink& s, std::string_view text) {
         out = kEmptyDate;
         if (Trim(text).empty()) return;
         line = 20;
-        const std::vector<std::string> parts = Split(text, "-");
+        std::string_view parts[3];
+        const size_t count = FirstParts(text, "-", parts);
         line = 30;
-        if (parts.size() < 3) return;
+        if (count < 3) return;
         line = 40;
         // Parts that are no numbers, or a date out of the runtime's range,
         // leave the zero date.
         Quietly(s.Err(), [&] {
-          out = DateSerial(Variant(parts[0]).ToInteger(), Variant(parts[1]).ToInteger(),
-                           Variant(parts[2]).ToInteger());
+          out =
+              DateSerial(TextToInteger(parts[0]), TextToInteger(parts[1]), TextToInteger(parts[2]));
         });
       });
 }

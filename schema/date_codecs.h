@@ -23,6 +23,8 @@ std::string ToQuorvixDateFormat(FailureSink& s, const Variant& date);
 
 // "" for a date of the years 1899, 4501 or 1; otherwise ToQuorvixDateFormat.
 std::string DateToQuorvixText(FailureSink& s, const DateValue& date);
+// The same, appended to `out`.
+void AppendQuorvixDateText(FailureSink& s, std::string& out, const DateValue& date);
 
 // Reads "year-month-day" (padding allowed, extra parts ignored, a month or day
 // out of range rolling over). Blank text, fewer than three parts or parts that

@@ -11,6 +11,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "core/trap.h"
 #include "core/variant.h"
@@ -25,5 +26,10 @@ std::string EncodeValue(FailureSink& s, const Variant& value);
 // Replaces "_COLON_", "_SCOLON_", "_COMMA_" in that order. Reported under
 // "Global.DecodeValue"; gives "" on a failure.
 std::string DecodeValue(FailureSink& s, const Variant& value);
+
+// The same replacements on text that is text already, without a Variant or
+// a trap: AppendEncoded appends the encoded text to `out`.
+void AppendEncoded(std::string& out, std::string_view text);
+std::string DecodeText(std::string_view text);
 
 }  // namespace qvx

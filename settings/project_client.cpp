@@ -1,17 +1,27 @@
 #include "settings/project_client.h"
 
+#include <charconv>
+
 #include "schema/date_codecs.h"
-#include "settings/catalogue_text.h"
+#include "schema/value_codecs.h"
 
 namespace qvx {
 
-std::string CatalogueDateText(FailureSink& s, DateValue date) {
-  return catalogue::Encoded(s, DateToQuorvixText(s, date));
+std::string cProjectClient::ToString(FailureSink& s) const {
+  std::string record;
+  AppendTo(s, record);
+  return record;
 }
 
-std::string cProjectClient::ToString(FailureSink& s) const {
-  return catalogue::Encoded(s, ListName) + "," + std::to_string(intColorCode) + "," +
-         CatalogueDateText(s, StartDate) + "," + CatalogueDateText(s, FinishDate);
+void cProjectClient::AppendTo(FailureSink& s, std::string& out) const {
+  AppendEncoded(out, ListName);
+  char colour[8];
+  out += ',';
+  out.append(colour, std::to_chars(colour, colour + sizeof colour, intColorCode).ptr);
+  out += ',';
+  AppendQuorvixDateText(s, out, StartDate);
+  out += ',';
+  AppendQuorvixDateText(s, out, FinishDate);
 }
 
 }  // namespace qvx

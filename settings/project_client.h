@@ -30,10 +30,8 @@ class cProjectClient {
 
   // The project record. No trap of its own: a failure goes to the caller.
   std::string ToString(FailureSink& s) const;
+  // The same record, appended to `out`.
+  void AppendTo(FailureSink& s, std::string& out) const;
 };
-
-// The date as catalogue text: "" for the years that mean no date, otherwise
-// "year-month-day", encoded like a name.
-std::string CatalogueDateText(FailureSink& s, DateValue date);
 
 }  // namespace qvx

@@ -23,6 +23,8 @@ class cTasksClient {
 
   // The activity record. No trap of its own: a failure goes to the caller.
   std::string ToString(FailureSink& s) const;
+  // The same record, appended to `out`.
+  void AppendTo(FailureSink& s, std::string& out) const;
 };
 
 }  // namespace qvx

@@ -6,31 +6,25 @@
 #include "core/trap.h"
 #include "schema/date_codecs.h"
 #include "schema/value_codecs.h"
-#include "settings/catalogue_text.h"
 #include "settings/combo_fill.h"
 #include "settings/scripting_sort.h"
 
 namespace qvx {
 
-using catalogue::Decoded;
-using catalogue::Part;
-using catalogue::Require;
-
 int16_t cTasksPerProject::getItemIndex(FailureSink& s, std::string_view Item) {
-  return TrappedResult<int16_t>(s, "TasksPerProject.getItemIndex",
-                                [&](Line& line, int16_t& result) {
-                                  line = 10;
-                                  // Only the activity filed under Item's key can be named Item
-                                  // exactly.
-                                  size_t position = dicList.IndexOf(Item);
-                                  if (position == dicList.npos ||
-                                      Require(dicList.Entries()[position].value).Activity != Item) {
-                                    position = dicList.Count();
-                                  }
-                                  line = 20;
-                                  if (position > 32767) throw Failure::Runtime(err::kOverflow);
-                                  result = static_cast<int16_t>(position);
-                                });
+  return TrappedResult<int16_t>(
+      s, "TasksPerProject.getItemIndex", [&](Line& line, int16_t& result) {
+        line = 10;
+        // Only the activity filed under Item's key can be named Item
+        // exactly.
+        size_t position = dicList.IndexOf(Item);
+        if (position == dicList.npos || dicList.Entries()[position].value.Activity != Item) {
+          position = dicList.Count();
+        }
+        line = 20;
+        if (position > 32767) throw Failure::Runtime(err::kOverflow);
+        result = static_cast<int16_t>(position);
+      });
 }
 
 std::string cTasksPerProject::GetItem(FailureSink& s, int16_t Index) {
@@ -39,8 +33,7 @@ std::string cTasksPerProject::GetItem(FailureSink& s, int16_t Index) {
         line = 10;
         if (Index < 0 || static_cast<size_t>(Index) >= dicList.Count()) return;
         line = 20;
-        result = std::string(
-            Trim(Require(dicList.Entries()[static_cast<size_t>(Index)].value).Activity));
+        result = std::string(Trim(dicList.Entries()[static_cast<size_t>(Index)].value.Activity));
       });
 }
 
@@ -51,15 +44,23 @@ std::string cTasksPerProject::ToString(FailureSink& s, std::string_view Delimite
                                       if (Sort && dicList.Count() > 1)
                                         dicList = Scripting::Sort(dicList, 1);
                                       line = 20;
-                                      std::vector<std::string> records;
-                                      records.reserve(dicList.Count());
-                                      for (const auto& entry : dicList)
-                                        records.push_back(Require(entry.value).ToString(s));
-                                      line = 30;
-                                      // Only the whole is trimmed: leading blanks of the first name
-                                      // are lost.
-                                      result = std::string(Trim(Join(records, Delimiter)));
+                                      AppendRecords(s, result, Delimiter);
                                     });
+}
+
+void cTasksPerProject::AppendRecords(FailureSink& s, std::string& out,
+                                     std::string_view Delimiter) const {
+  const size_t start = out.size();
+  bool first = true;
+  for (const auto& entry : dicList) {
+    if (!first) out += Delimiter;
+    first = false;
+    entry.value.AppendTo(s, out);
+  }
+  // Only the whole is trimmed: leading blanks of the first name are lost.
+  while (out.size() > start && out.back() == ' ') out.pop_back();
+  const size_t firstKept = out.find_first_not_of(' ', start);
+  out.erase(start, (firstKept == std::string::npos ? out.size() : firstKept) - start);
 }
 
 void cTasksPerProject::FromString(FailureSink& s, std::string_view Text,
@@ -69,31 +70,22 @@ void cTasksPerProject::FromString(FailureSink& s, std::string_view Text,
     dicList = {};
     if (Text.empty()) return;
     line = 20;
-    const std::vector<std::string> parts = Split(Text, Delimiter);
-    bool ignoring = false;  // from the first due date on, failures are ignored
-    std::vector<std::string> fields;
-    for (const std::string& part : parts) {
+    dicList.Reserve(CountOf(Text, Delimiter) + 1);
+    PartWalker parts(Text, Delimiter);
+    for (std::string_view part; parts.Next(part);) {
       if (part.empty()) continue;
-      auto task = std::make_shared<cTasksClient>();
-      const auto name = [&] {
-        fields = Split(part, ",");
-        task->Activity = Decoded(s, Part(fields, 0));
-      };
-      if (ignoring) {
-        IgnoreFailure(s.Err(), name);
-      } else {
-        line = 30;
-        name();
-      }
-      ignoring = true;
+      // A part that is not empty has a first field, so the name cannot fail.
+      line = 30;
+      std::string_view fields[2];
+      const size_t count = FirstParts(part, ",", fields);
+      cTasksClient task;
+      task.Activity = DecodeText(fields[0]);
+      // A missing or bad due date leaves the empty date.
       line = 40;
-      IgnoreFailure(s.Err(),
-                    [&] { task->DueDate = FromQuorvixDateFormat(s, Decoded(s, Part(fields, 1))); });
+      if (count > 1) task.DueDate = FromQuorvixDateFormat(s, DecodeText(fields[1]));
       s.Err().Clear();
       line = 50;
-      IgnoreFailure(s.Err(), [&] {
-        if (!dicList.Exists(task->Activity)) dicList.Add(task->Activity, task);
-      });
+      dicList.TryAdd(task.Activity, std::move(task));
     }
   });
 }
@@ -101,9 +93,8 @@ void cTasksPerProject::FromString(FailureSink& s, std::string_view Text,
 void cTasksPerProject::PopulateComboList(FailureSink& s, const Object& Control, std::string& Value,
                                          bool AddBlank) {
   Trapped(s, "cTasksPerProject.PopulateComboList", [&](Line& line) {
-    FillComboList(
-        s, line, Control, Value, AddBlank, dicList,
-        [](const auto& entry) -> const std::string& { return Require(entry.value).Activity; });
+    FillComboList(s, line, Control, Value, AddBlank, dicList,
+                  [](const auto& entry) -> const std::string& { return entry.value.Activity; });
   });
 }
 
@@ -116,7 +107,7 @@ std::string cTasksPerProject::ToStringTab(FailureSink& s) {
                                       std::vector<std::string> names(dicList.Count());
                                       size_t next = 0;
                                       for (const auto& entry : dicList) {
-                                        const std::string& name = Require(entry.value).Activity;
+                                        const std::string& name = entry.value.Activity;
                                         if (!name.empty()) names[next++] = name;
                                       }
                                       line = 20;

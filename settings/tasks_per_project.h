@@ -33,7 +33,7 @@ namespace qvx {
 
 class cTasksPerProject {
  public:
-  OrderedDictionary<std::shared_ptr<cTasksClient>> dicList;
+  OrderedDictionary<cTasksClient> dicList;
   std::shared_ptr<cProjectClient> Project = std::make_shared<cProjectClient>();
 
   // 0-based position of the activity named exactly Item, case included; the
@@ -44,6 +44,8 @@ class cTasksPerProject {
   // The activity records joined, the whole trimmed. Sort replaces the
   // dictionary by its sorted form (when it has more than one entry).
   std::string ToString(FailureSink& s, std::string_view Delimiter, bool Sort);
+  // The joined and trimmed records, appended to `out`; no trap, no sort.
+  void AppendRecords(FailureSink& s, std::string& out, std::string_view Delimiter) const;
   // Replaces the activities by those of Text: empty parts skipped, the first
   // of a name wins, a missing or bad due date left empty. No sort.
   void FromString(FailureSink& s, std::string_view Text, std::string_view Delimiter);

@@ -1,7 +1,5 @@
 #include "settings/tasks_per_project_list.h"
 
-#include <vector>
-
 #include "core/text.h"
 #include "core/trap.h"
 #include "schema/date_codecs.h"
@@ -10,7 +8,6 @@
 
 namespace qvx {
 
-using catalogue::Decoded;
 using catalogue::Part;
 using catalogue::Require;
 
@@ -36,19 +33,34 @@ std::string cTasksPerProjectList::ToString(FailureSink& s) {
   return TrappedResult<std::string>(
       s, "cTasksPerProjectList.ToString", [&](Line& line, std::string& result) {
         line = 10;
-        std::string record;
-        std::string activities;
+        // Where the last line's record and activities stand in the result: a
+        // project that cannot be written repeats what was written before.
+        size_t recordAt = 0, recordSize = 0, activitiesAt = 0, activitiesSize = 0;
         for (const auto& entry : dicList) {
           s.Err().Clear();
-          IgnoreFailure(s.Err(),
-                        [&] { record = Require(Require(entry.value).Project).ToString(s); });
-          IgnoreFailure(s.Err(),
-                        [&] { activities = Require(entry.value).ToString(s, ";", false); });
           IgnoreFailure(s.Err(), [&] {
+            const cTasksPerProject* project = entry.value.get();
+            const cProjectClient* client = project ? project->Project.get() : nullptr;
+            std::string record, activities;
+            if (!client) record = result.substr(recordAt, recordSize);
+            if (!project) activities = result.substr(activitiesAt, activitiesSize);
             if (!result.empty()) result += catalogue::kLineBreak;
-            result += record;
+            recordAt = result.size();
+            if (client) {
+              client->AppendTo(s, result);
+            } else {
+              result += record;
+            }
+            recordSize = result.size() - recordAt;
             result += ':';
-            result += activities;
+            activitiesAt = result.size();
+            if (project) {
+              project->AppendRecords(s, result, ";");
+            } else {
+              result += activities;
+            }
+            activitiesSize = result.size() - activitiesAt;
+            if (!client) throw Failure::Runtime(err::kObjectNotSet);  // left pending
           });
         }
       });
@@ -57,38 +69,39 @@ std::string cTasksPerProjectList::ToString(FailureSink& s) {
 void cTasksPerProjectList::FromString(FailureSink& s, std::string_view Text) {
   Trapped(s, "cTasksPerProjectList.FromString", [&](Line& line) {
     line = 10;
-    const std::vector<std::string> lines = Split(Text, catalogue::kLineBreak);
     dicList = {};
+    if (!Text.empty()) dicList.Reserve(CountOf(Text, catalogue::kLineBreak) + 1);
     // Not reset between lines: a missing colour or date is the line before's.
     int16_t color = 0;
     DateValue start = kEmptyDate;
     DateValue finish = kEmptyDate;
-    for (const std::string& text : lines) {
+    PartWalker lines(Text, catalogue::kLineBreak);
+    for (std::string_view text; lines.Next(text);) {
       line = 20;
-      const std::vector<std::string> parts = Split(text, ":");
-      const std::vector<std::string> fields = Split(Part(parts, 0), ",");
+      std::string_view parts[2];
+      const size_t partCount = FirstParts(text, ":", parts);
+      std::string_view fields[4];
+      const size_t count = FirstParts(Part(parts, partCount, 0), ",", fields);
       line = 30;
-      const std::string name = Decoded(s, Part(fields, 0));
+      std::string name = DecodeText(Part(fields, count, 0));
       line = 40;
-      IgnoreFailure(s.Err(), [&] { color = Variant(Part(fields, 1)).ToInteger(); });
+      if (count > 1) IgnoreFailure(s.Err(), [&] { color = TextToInteger(fields[1]); });
       s.Err().Clear();
-      IgnoreFailure(s.Err(),
-                    [&] { start = FromQuorvixDateFormat(s, Decoded(s, Part(fields, 2))); });
-      IgnoreFailure(s.Err(),
-                    [&] { finish = FromQuorvixDateFormat(s, Decoded(s, Part(fields, 3))); });
+      if (count > 2) start = FromQuorvixDateFormat(s, DecodeText(fields[2]));
+      if (count > 3) finish = FromQuorvixDateFormat(s, DecodeText(fields[3]));
       s.Err().Clear();
       line = 50;
-      const std::string& activities = Part(parts, 1);
+      const std::string_view activities = Part(parts, partCount, 1);
       line = 60;
       auto project = std::make_shared<cTasksPerProject>();
       cProjectClient& client = *project->Project;
-      client.ListName = name;
       client.intColorCode = color;
       client.StartDate = start;
       client.FinishDate = finish;
       project->FromString(s, activities, ";");
       line = 70;
-      if (!dicList.Exists(name)) dicList.Add(name, std::move(project));
+      client.ListName = std::move(name);
+      dicList.TryAdd(client.ListName, std::move(project));
     }
   });
 }

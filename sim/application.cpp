@@ -15,7 +15,9 @@
 namespace qvx::sim {
 
 SimApplication::SimApplication(ContextPtr context, std::string version)
-    : context_(std::move(context)), version_(std::move(version)) {}
+    : context_(std::move(context)), version_(std::move(version)) {
+  CountCallsIn(context_);
+}
 
 void SimApplication::Init(std::string mailboxName, std::string userName) {
   context_->app = std::static_pointer_cast<SimApplication>(shared_from_this());

@@ -32,6 +32,9 @@ struct SimContext {
   MessageQueue pending;
   uint64_t nextEntryId = 1;
   uint64_t nextStoreId = 1;
+  // Every member call and enumeration on the host's objects reached from the
+  // Application (or handed over with an event): what the add-in costs the host.
+  uint64_t hostCalls = 0;
 
   // The Application as the add-in sees it; Nothing once it is gone.
   Object Application() const;

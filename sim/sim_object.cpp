@@ -7,11 +7,20 @@ namespace qvx::sim {
 
 Variant SimObject::Invoke(std::string_view name, InvokeKind kind, std::vector<Variant>& args) {
   ++calls_[FoldCase(name)];
+  if (tally_) ++tally_->hostCalls;
   faults_->Check(name, kind);
   CheckUsable();
   const Member* m = Members().Find(name);
   if (m == nullptr) throw NoSuchMember();
-  return Dispatch(*m, kind, args);
+  Variant result = Dispatch(*m, kind, args);
+  PassTally(result);
+  return result;
+}
+
+void SimObject::PassTally(const Variant& value) const {
+  if (!tally_ || !value.IsObject()) return;
+  auto* object = dynamic_cast<SimObject*>(value.ToObject().host());
+  if (object != nullptr && !object->tally_) object->tally_ = tally_;
 }
 
 Variant SimObject::Dispatch(const Member& m, InvokeKind kind, Args& args) {
@@ -35,9 +44,12 @@ Variant SimObject::Dispatch(const Member& m, InvokeKind kind, Args& args) {
 
 std::vector<Variant> SimObject::Enumerate() {
   ++calls_[FoldCase(kEnumMember)];
+  if (tally_) ++tally_->hostCalls;
   faults_->Check(kEnumMember, InvokeKind::Call);
   CheckUsable();
-  return Elements();
+  std::vector<Variant> elements = Elements();
+  for (const Variant& element : elements) PassTally(element);
+  return elements;
 }
 
 std::vector<Variant> SimObject::Elements() {

@@ -9,7 +9,9 @@
 //   explorer->FailMember("Selection", 0x80004005, "boom");       // always
 //   explorer->FailMember("CurrentFolder", 13, "Type mismatch", 2); // next two calls
 //
-// Enumeration is the member "_NewEnum" for faults. Events go through an
+// Enumeration is the member "_NewEnum" for faults. An object that counts its
+// calls in a context's tally (the Application from its start) passes the
+// tally on to every object it gives out, by member, enumeration or event. Events go through an
 // EventSource; subscribing to an event the class doesn't raise fails with 438.
 #pragma once
 
@@ -22,6 +24,7 @@
 
 #include "core/events.h"
 #include "core/variant.h"
+#include "sim/context.h"
 #include "sim/faults.h"
 #include "sim/member_table.h"
 
@@ -57,7 +60,10 @@ class SimObject : public HostObject, public std::enable_shared_from_this<SimObje
   // world's own navigation and for test assertions.
   Variant Peek(std::string_view name, Args args = {});
 
-  size_t Raise(std::string_view event, EventArgs& args) { return events_.Raise(event, args); }
+  size_t Raise(std::string_view event, EventArgs& args) {
+    for (const Variant& arg : args) PassTally(arg);
+    return events_.Raise(event, args);
+  }
   size_t Raise(std::string_view event) {
     EventArgs none;
     return events_.Raise(event, none);
@@ -66,6 +72,9 @@ class SimObject : public HostObject, public std::enable_shared_from_this<SimObje
   bool HasMember(std::string_view name) const { return Members().Find(name) != nullptr; }
 
  protected:
+  // Counts this object's calls in the context's `hostCalls`.
+  void CountCallsIn(ContextPtr context) { tally_ = std::move(context); }
+
   virtual const MemberTable& Members() const = 0;
   // The events this class raises.
   virtual std::span<const std::string_view> EventNames() const { return {}; }
@@ -77,10 +86,13 @@ class SimObject : public HostObject, public std::enable_shared_from_this<SimObje
 
  private:
   Variant Dispatch(const Member& m, InvokeKind kind, Args& args);
+  // Gives a simulated object in the value this object's tally, if it has none.
+  void PassTally(const Variant& value) const;
 
   std::shared_ptr<FaultTable> faults_ = std::make_shared<FaultTable>();
   std::unordered_map<std::string, int> calls_;  // by folded member name
   EventSource events_;
+  ContextPtr tally_;
 };
 
 }  // namespace qvx::sim

@@ -59,7 +59,7 @@ void RegisterCatalogueVerbs(VerbTable& table) {
               const auto* project = SettingsOf(w).MyProjectsTasks->dicList.Find(a.At(0));
               if (project == nullptr)
                 throw ExpectationFailed(Listed(expected), "(no such project)");
-              for (const auto& entry : (*project)->dicList) seen.push_back(entry.value->Activity);
+              for (const auto& entry : (*project)->dicList) seen.push_back(entry.value.Activity);
               if (expected != seen) throw ExpectationFailed(Listed(expected), Listed(seen));
             });
   table.Add("expect catalogue", "expect catalogue LINE...",

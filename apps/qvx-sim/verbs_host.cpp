@@ -1,5 +1,6 @@
 // host version / no-explorer / mailbox / fail / open-explorer / close-explorer /
-// restart, expect explorers / explorer-folder
+// restart / count-calls, expect explorers / explorer-folder / host-calls,
+// show host-calls
 #include "apps/qvx-sim/verbs.h"
 #include "apps/qvx-sim/world.h"
 #include "sim/explorer.h"
@@ -74,6 +75,28 @@ void RegisterHostVerbs(VerbTable& table) {
             [](World& w, const Args& a) {
               a.Expect(1);
               ExpectEqual(std::to_string(a.Int(0)), std::to_string(w.host().Explorers().size()));
+            });
+  table.Add("host count-calls", "host count-calls",
+            "starts counting the add-in's calls on the host's objects afresh",
+            [](World& w, const Args& a) {
+              a.Expect(0);
+              w.host().context().hostCalls = 0;
+            });
+  table.Add("expect host-calls", "expect host-calls MAX",
+            "the add-in called members of the host's objects (or enumerated them) at most MAX "
+            "times since the last host count-calls",
+            [](World& w, const Args& a) {
+              a.Expect(1);
+              const uint64_t calls = w.host().context().hostCalls;
+              if (calls > static_cast<uint64_t>(a.Int(0))) {
+                throw ExpectationFailed("at most " + a.At(0), std::to_string(calls));
+              }
+            });
+  table.Add("show host-calls", "show host-calls",
+            "prints the add-in's calls on the host since the last host count-calls",
+            [](World& w, const Args& a) {
+              a.Expect(0);
+              if (w.out) *w.out << "host calls: " << w.host().context().hostCalls << "\n";
             });
   table.Add("expect explorer-folder", "expect explorer-folder NAME",
             "the folder shown by the active explorer", [](World& w, const Args& a) {

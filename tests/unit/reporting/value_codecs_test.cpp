@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <random>
+
+#include "core/text.h"
+
 #include "reporting/key_filter.h"
 #include "unit/reporting/test_addin.h"
 
@@ -34,6 +39,20 @@ TEST(ValueCodecs, EscapeTheCatalogueSeparatorsAndNothingElse) {
     EXPECT_EQ(DecodeValue(t.s, kept), kept);
   EXPECT_EQ(DecodeValue(t.s, "_COLON_COMMA_"), ":COMMA_");
   EXPECT_TRUE(t.Reports().empty());
+}
+
+// Decoding is the three replacements in order, also where tokens share an
+// underscore or hide inside one another.
+TEST(ValueCodecs, DecodingEqualsTheThreeReplacementsInOrder) {
+  const char* pieces[] = {"_", "COLON", "SCOLON", "COMMA", "C", "S", "x", "_COLON_", "_COMMA_"};
+  std::mt19937 random(3);
+  for (int i = 0; i < 20000; ++i) {
+    std::string text;
+    for (size_t n = random() % 9; n > 0; --n) text += pieces[random() % std::size(pieces)];
+    const std::string inOrder =
+        Replace(Replace(Replace(text, "_COLON_", ":"), "_SCOLON_", ";"), "_COMMA_", ",");
+    ASSERT_EQ(DecodeText(text), inOrder) << text;
+  }
 }
 
 TEST(ValueCodecs, AValueWithoutTextFormGivesEmptyAndIsReported) {

@@ -39,7 +39,7 @@ struct CatalogueFixture : SettingsFixture {
 
 inline Strings Activities(const cTasksPerProject& project) {
   Strings names;
-  for (const auto& entry : project.dicList) names.push_back(entry.value->Activity);
+  for (const auto& entry : project.dicList) names.push_back(entry.value.Activity);
   return names;
 }
 

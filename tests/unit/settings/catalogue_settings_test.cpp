@@ -35,9 +35,9 @@ TEST(CatalogueSettings, ReadSettingsFillsTheCatalogueAndSaveSettingsWritesItBack
   EXPECT_EQ(f.settings.MyProjectsTasks->dicList.Count(), 3u);  // "ALPHA" dropped
   // In the stored order, not sorted, without the nameless project.
   EXPECT_EQ(Names(*f.settings.Projects), (Strings{"Zeta", "alpha"}));
-  auto task = std::make_shared<cTasksClient>();
-  task->Activity = "New; step";
-  (*f.settings.MyProjectsTasks->dicList.Find("alpha"))->dicList.Add(task->Activity, task);
+  cTasksClient task;
+  task.Activity = "New; step";
+  (*f.settings.MyProjectsTasks->dicList.Find("alpha"))->dicList.Add(task.Activity, task);
   f.settings.SaveSettings(f.s);
   const std::string expected =
       "Zeta,2,,:Plan,;Build,2024-5-1\r\nalpha,0,2024-1-1,:New_SCOLON_ step,\r\n,4,,:";

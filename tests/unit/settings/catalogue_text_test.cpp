@@ -26,7 +26,7 @@ TEST(CatalogueText, WorkedExampleReadsAsTheTreeAndWritesBackUnchanged) {
   EXPECT_EQ(alpha.Project->StartDate, DateSerial(2011, 3, 1));
   EXPECT_EQ(alpha.Project->FinishDate, kEmptyDate);
   EXPECT_EQ(Activities(alpha), (Strings{"Design", "Review: final"}));
-  EXPECT_EQ((*alpha.dicList.Find("design"))->DueDate, DateSerial(2011, 4, 15));
+  EXPECT_EQ(alpha.dicList.Find("design")->DueDate, DateSerial(2011, 4, 15));
   EXPECT_EQ(f.Project("Beta").Project->StartDate, kEmptyDate);
   EXPECT_EQ(f.catalogue.ToString(f.s), kExample);  // colours, and no activities for Beta
   // An empty text empties the catalogue, with no report.
@@ -81,10 +81,10 @@ TEST(CatalogueText, RandomCataloguesRoundTrip) {
       client.StartDate = RandomDate(random);
       client.FinishDate = RandomDate(random);
       for (size_t t = random() % 6; t > 0; --t) {
-        auto task = std::make_shared<cTasksClient>();
-        task->Activity = RandomName(f.s, random) + std::to_string(t);
-        task->DueDate = RandomDate(random);
-        project->dicList.Add(task->Activity, task);
+        cTasksClient task;
+        task.Activity = RandomName(f.s, random) + std::to_string(t);
+        task.DueDate = RandomDate(random);
+        project->dicList.Add(task.Activity, task);
       }
       f.catalogue.dicList.Add(client.ListName, project);
     }
@@ -127,11 +127,11 @@ TEST(CatalogueText, DatesRollOverAndAreEmptyWhenShortOrOutOfRange) {
   const cTasksPerProject& p = f.Project("P");
   EXPECT_EQ(p.Project->StartDate, DateSerial(2012, 1, 1));
   EXPECT_EQ(p.Project->FinishDate, kEmptyDate);
-  EXPECT_EQ((*p.dicList.Find("A"))->DueDate, DateSerial(2011, 3, 2));
-  EXPECT_EQ((*p.dicList.Find("B"))->DueDate, kNoneDate);  // read as it stands
-  EXPECT_EQ((*p.dicList.Find("C"))->DueDate, kEmptyDate);
+  EXPECT_EQ(p.dicList.Find("A")->DueDate, DateSerial(2011, 3, 2));
+  EXPECT_EQ(p.dicList.Find("B")->DueDate, kNoneDate);  // read as it stands
+  EXPECT_EQ(p.dicList.Find("C")->DueDate, kEmptyDate);
   EXPECT_EQ(f.Project("Q").Project->StartDate, kEmptyDate);
-  EXPECT_EQ((*f.Project("Q").dicList.Find("x"))->DueDate, kEmptyDate);
+  EXPECT_EQ(f.Project("Q").dicList.Find("x")->DueDate, kEmptyDate);
   EXPECT_EQ(f.Project("R").Project->StartDate, kNoneDate);
   // The host's none date is written as nothing.
   EXPECT_EQ(f.catalogue.ToString(f.s),

@@ -1,0 +1,138 @@
+// The explorer as the user works it, with a catalogue of 1,000 projects of
+// 20 activities and four custom lists of 1,000 entries: a folder switch, a
+// selection change, and a full refresh of the explorer ribbon (all bars
+// refreshed and the ribbon invalidated, then every callback of the shown
+// ribbon asked again by the simulated Office).
+#include <benchmark/benchmark.h>
+#include <stdlib.h>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+
+#include "addin/addin.h"
+#include "addin/explorers_event_client.h"
+#include "catalogue_text_sample.h"
+#include "platform/posix/file_registry.h"
+#include "platform/posix/posix_objects.h"
+#include "platform/posix/posix_system.h"
+#include "platform/posix/scripted_ui.h"
+#include "platform/posix/socket_message_windows.h"
+#include "sim/appointment.h"
+#include "sim/explorer.h"
+#include "sim/outlook.h"
+#include "sim/ribbon/ribbon_addin.h"
+#include "sim/ribbon/ribbon_host.h"
+#include "state/addin_state.h"
+
+namespace {
+
+using namespace qvx;
+
+constexpr char kKey[] = "Software\\Zenbrook\\QVX";
+
+std::string ListOf(const std::string& stem, int count) {
+  std::string text;
+  for (int i = 0; i < count; ++i) text += (i ? "\r\n" : "") + stem + " " + std::to_string(i);
+  return text;
+}
+
+// A started add-in in a host whose explorer shows the calendar with two
+// appointments, its explorer ribbon shown by the simulated Office.
+struct ExplorerWorld {
+  ExplorerWorld() : folder(MakeFolder()), registry(folder + "/registry.qvxreg") {
+    registry.SetString(kKey, "DBChoice", "1");
+    registry.SetString(kKey, "DBConnectionString", "DSN=Timesheets");
+    registry.SetString(kKey, "MyProjectsTasks", bench::CatalogueText(1000, 20));
+    for (const char* list : {"CustomField1List", "CustomField2List", "CustomField3List",
+                             "CustomField4List"}) {
+      registry.SetString(kKey, list, ListOf(list, 1000));
+    }
+    std::ofstream(folder + "/QuorvixClient.exe") << "stand-in";
+    options.home = folder;
+    options.addinFolder = folder;
+    options.spawn = false;
+    setenv("QVX_WINDOW_NAMESPACE", std::filesystem::path(folder).filename().c_str(), 1);
+    system = std::make_unique<platform::PosixSystemServices>(options);
+    objects = std::make_unique<platform::PosixObjectFactory>(*system);
+    objects->RegisterRunning("Outlook.Application", [this] { return host.Application(); });
+    first = host.AddAppointment("First", DateSerial(2026, 3, 2), DateSerial(2026, 3, 3),
+                                host.Calendar());
+    second = host.AddAppointment("Second", DateSerial(2026, 3, 4), DateSerial(2026, 3, 5),
+                                 host.Calendar());
+    addin = std::make_unique<QVXClientAddin>(platform::Platform{.registry = &registry,
+                                                                .objects = objects.get(),
+                                                                .ui = &ui,
+                                                                .system = system.get(),
+                                                                .windows = &windows});
+    addin->OnConnection(host.Application(), 1, Object());
+    addin->OnStartupComplete();
+    explorer = host.ActiveExplorer();
+    host.SwitchFolder(*explorer, host.Calendar());
+    window = &ribbon.Open("Microsoft.Outlook.Explorer", explorer->AsObject());
+    window->Ribbon();
+  }
+  ~ExplorerWorld() {
+    addin->OnBeginShutdown();
+    addin.reset();
+    std::filesystem::remove_all(folder);
+  }
+
+  static std::string MakeFolder() {
+    std::string base = std::filesystem::temp_directory_path().string() + "/qvx-bench-XXXXXX";
+    if (mkdtemp(base.data()) == nullptr) std::abort();
+    return base;
+  }
+
+  std::string folder;
+  platform::FileRegistry registry;
+  platform::PosixSystemOptions options;
+  sim::Outlook host;
+  std::unique_ptr<platform::PosixSystemServices> system;
+  std::unique_ptr<platform::PosixObjectFactory> objects;
+  platform::ScriptedUserInterface ui;
+  platform::SocketMessageWindows windows;
+  std::shared_ptr<sim::SimAppointment> first, second;
+  std::unique_ptr<QVXClientAddin> addin;
+  std::shared_ptr<sim::SimExplorer> explorer;
+  sim::AddinRibbonClient client{[this]() -> QVXClientAddin& { return *addin; }};
+  sim::RibbonHost ribbon{client};
+  sim::RibbonWindow* window = nullptr;
+};
+
+// Calendar and tasks in turn: each switch rebuilds the explorer's bars.
+void BM_FolderSwitch(benchmark::State& state) {
+  ExplorerWorld world;
+  bool calendar = false;
+  for (auto _ : state) {
+    world.host.SwitchFolder(*world.explorer,
+                            calendar ? world.host.Calendar() : world.host.Tasks());
+    calendar = !calendar;
+  }
+}
+BENCHMARK(BM_FolderSwitch)->Unit(benchmark::kMillisecond);
+
+// One appointment and the other in turn: the bars empty and show the fields.
+void BM_SelectionChange(benchmark::State& state) {
+  ExplorerWorld world;
+  bool one = false;
+  for (auto _ : state) {
+    world.host.Select(*world.explorer, {one ? world.first : world.second});
+    one = !one;
+  }
+}
+BENCHMARK(BM_SelectionChange)->Unit(benchmark::kMillisecond);
+
+// The companion's "refresh the toolbars", then Office asks every callback of
+// the shown explorer ribbon again.
+void BM_ExplorerRibbonRefresh(benchmark::State& state) {
+  ExplorerWorld world;
+  for (auto _ : state) {
+    world.addin->state().main.objExplorersClient->UpdateAllDisplayedToolbars();
+    benchmark::DoNotOptimize(world.window->Ribbon().children.size());
+  }
+}
+BENCHMARK(BM_ExplorerRibbonRefresh)->Unit(benchmark::kMillisecond);
+
+}  // namespace
