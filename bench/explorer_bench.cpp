@@ -4,17 +4,14 @@
 // refreshed and the ribbon invalidated, then every callback of the shown
 // ribbon asked again by the simulated Office).
 #include <benchmark/benchmark.h>
-#include <stdlib.h>
 
-#include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
 
 #include "addin/addin.h"
 #include "addin/explorers_event_client.h"
+#include "bench_platform.h"
 #include "catalogue_text_sample.h"
-#include "platform/posix/file_registry.h"
 #include "platform/posix/posix_objects.h"
 #include "platform/posix/posix_system.h"
 #include "platform/posix/scripted_ui.h"
@@ -30,8 +27,6 @@ namespace {
 
 using namespace qvx;
 
-constexpr char kKey[] = "Software\\Zenbrook\\QVX";
-
 std::string ListOf(const std::string& stem, int count) {
   std::string text;
   for (int i = 0; i < count; ++i) text += (i ? "\r\n" : "") + stem + " " + std::to_string(i);
@@ -40,20 +35,15 @@ std::string ListOf(const std::string& stem, int count) {
 
 // A started add-in in a host whose explorer shows the calendar with two
 // appointments, its explorer ribbon shown by the simulated Office.
-struct ExplorerWorld {
-  ExplorerWorld() : folder(MakeFolder()), registry(folder + "/registry.qvxreg") {
-    registry.SetString(kKey, "DBChoice", "1");
-    registry.SetString(kKey, "DBConnectionString", "DSN=Timesheets");
-    registry.SetString(kKey, "MyProjectsTasks", bench::CatalogueText(1000, 20));
-    for (const char* list : {"CustomField1List", "CustomField2List", "CustomField3List",
-                             "CustomField4List"}) {
-      registry.SetString(kKey, list, ListOf(list, 1000));
+struct ExplorerWorld : bench::BenchPlatform {
+  ExplorerWorld() {
+    Set("DBChoice", "1");
+    Set("DBConnectionString", "DSN=Timesheets");
+    Set("MyProjectsTasks", bench::CatalogueText(1000, 20));
+    for (const char* list :
+         {"CustomField1List", "CustomField2List", "CustomField3List", "CustomField4List"}) {
+      Set(list, ListOf(list, 1000));
     }
-    std::ofstream(folder + "/QuorvixClient.exe") << "stand-in";
-    options.home = folder;
-    options.addinFolder = folder;
-    options.spawn = false;
-    setenv("QVX_WINDOW_NAMESPACE", std::filesystem::path(folder).filename().c_str(), 1);
     system = std::make_unique<platform::PosixSystemServices>(options);
     objects = std::make_unique<platform::PosixObjectFactory>(*system);
     objects->RegisterRunning("Outlook.Application", [this] { return host.Application(); });
@@ -76,18 +66,8 @@ struct ExplorerWorld {
   ~ExplorerWorld() {
     addin->OnBeginShutdown();
     addin.reset();
-    std::filesystem::remove_all(folder);
   }
 
-  static std::string MakeFolder() {
-    std::string base = std::filesystem::temp_directory_path().string() + "/qvx-bench-XXXXXX";
-    if (mkdtemp(base.data()) == nullptr) std::abort();
-    return base;
-  }
-
-  std::string folder;
-  platform::FileRegistry registry;
-  platform::PosixSystemOptions options;
   sim::Outlook host;
   std::unique_ptr<platform::PosixSystemServices> system;
   std::unique_ptr<platform::PosixObjectFactory> objects;
@@ -106,8 +86,7 @@ void BM_FolderSwitch(benchmark::State& state) {
   ExplorerWorld world;
   bool calendar = false;
   for (auto _ : state) {
-    world.host.SwitchFolder(*world.explorer,
-                            calendar ? world.host.Calendar() : world.host.Tasks());
+    world.host.SwitchFolder(*world.explorer, calendar ? world.host.Calendar() : world.host.Tasks());
     calendar = !calendar;
   }
 }

@@ -3,15 +3,13 @@
 // companion starts), for an unconfigured user and for a configured one with
 // a catalogue of 0, 1,000 or 10,000 projects of 20 activities.
 #include <benchmark/benchmark.h>
-#include <stdlib.h>
 
-#include <filesystem>
-#include <fstream>
+#include <memory>
 #include <string>
 
 #include "addin/addin.h"
+#include "bench_platform.h"
 #include "catalogue_text_sample.h"
-#include "platform/posix/file_registry.h"
 #include "platform/posix/posix_objects.h"
 #include "platform/posix/posix_system.h"
 #include "platform/posix/scripted_ui.h"
@@ -22,40 +20,17 @@ namespace {
 
 using namespace qvx;
 
-constexpr char kKey[] = "Software\\Zenbrook\\QVX";
-
-// The platform of one run; launches are recorded, not spawned.
-struct Bench {
-  Bench(bool configured, size_t projects)
-      : folder(MakeFolder()), registry(folder + "/registry.qvxreg") {
-    if (configured) {
-      if (projects > 0) {
-        registry.SetString(kKey, "MyProjectsTasks", bench::CatalogueText(projects, 20));
-      }
-      registry.SetString(kKey, "DBChoice", "1");
-      registry.SetString(kKey, "DBConnectionString", "DSN=Timesheets");
-      registry.SetString(kKey, "AutoSyncToDB", "-1");
-      registry.SetString(kKey, "ReportIemsOnDueDateLapsedAutomatically", "-1");
-      registry.SetString(kKey, "AutoCheckForUpgradeAtStartup", "-1");
-    }
-    // The companion is found, as in a real installation; nothing is spawned.
-    std::ofstream(folder + "/QuorvixClient.exe") << "stand-in";
-    options.home = folder;
-    options.addinFolder = folder;
-    options.spawn = false;
-    setenv("QVX_WINDOW_NAMESPACE", std::filesystem::path(folder).filename().c_str(), 1);
+// The platform of one run, with a configured user's settings.
+struct Bench : bench::BenchPlatform {
+  Bench(bool configured, size_t projects) {
+    if (!configured) return;
+    Set("DBChoice", "1");
+    Set("DBConnectionString", "DSN=Timesheets");
+    Set("AutoSyncToDB", "-1");
+    Set("ReportIemsOnDueDateLapsedAutomatically", "-1");
+    Set("AutoCheckForUpgradeAtStartup", "-1");
+    if (projects > 0) Set("MyProjectsTasks", bench::CatalogueText(projects, 20));
   }
-  ~Bench() { std::filesystem::remove_all(folder); }
-
-  static std::string MakeFolder() {
-    std::string base = std::filesystem::temp_directory_path().string() + "/qvx-bench-XXXXXX";
-    if (mkdtemp(base.data()) == nullptr) std::abort();
-    return base;
-  }
-
-  std::string folder;
-  platform::FileRegistry registry;
-  platform::PosixSystemOptions options;
 };
 
 void RunStartup(benchmark::State& state, bool configured) {

@@ -66,7 +66,7 @@ BENCHMARK(BM_TagSelection)->Arg(10)->Arg(1000)->Arg(10000)->Unit(benchmark::kMil
 void BM_TagProjectValue(benchmark::State& state) {
   TaggingWorld world(static_cast<int>(state.range(0)), 1);
   for (auto _ : state) {
-    world.s.tagging.SELECTED_ACTIVITY_VALUE = "Build";
+    world.s.ribbon.explorer.SELECTED_ACTIVITY_VALUE = "Build";
     Main::TagProjectValueToItem(world.s, "Alpha");
   }
   if (!world.Clean()) state.SkipWithError("a failure was reported");

@@ -79,23 +79,31 @@ std::string DecodeText(std::string_view text) {
   if (hit == std::string_view::npos) return std::string(text);
   // One pass gives what the three replacements in order give, unless two
   // tokens share an underscore ("_COMMA_COLON_"): then the order decides.
-  std::string out;
-  out.reserve(text.size());
-  size_t read = 0;
+  // Decoded in place: the text only shrinks, and its block keeps its size.
+  std::string out(text);
+  size_t read = hit;
+  size_t write = hit;
   while (hit != std::string_view::npos) {
-    out.append(text.substr(read, hit - read));
+    write = static_cast<size_t>(std::copy(text.begin() + static_cast<std::ptrdiff_t>(read),
+                                          text.begin() + static_cast<std::ptrdiff_t>(hit),
+                                          out.begin() + static_cast<std::ptrdiff_t>(write)) -
+                                out.begin());
     const size_t length = TokenAt(text, hit);
     if (length == 0) {
-      out += '_';
+      out[write++] = '_';
       read = hit + 1;
     } else {
       if (TokenAt(text, hit + length - 1) != 0) return DecodeInOrder(text);
-      out += TokenCharacter(text[hit + 3]);
+      out[write++] = TokenCharacter(text[hit + 3]);
       read = hit + length;
     }
     hit = text.find('_', read);
   }
-  out.append(text.substr(read));
+  write =
+      static_cast<size_t>(std::copy(text.begin() + static_cast<std::ptrdiff_t>(read), text.end(),
+                                    out.begin() + static_cast<std::ptrdiff_t>(write)) -
+                          out.begin());
+  out.resize(write);
   return out;
 }
 
