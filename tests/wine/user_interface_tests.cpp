@@ -108,7 +108,7 @@ std::vector<std::string> RowsOf(DllRibbonAddin& ribbon, const Object& control) {
 
 }  // namespace
 
-WINE_TEST(CommandBars, TheUserTagsReportsAndShutsDownThroughConnectionPoints) {
+WINE_TEST(CommandBars, TheUserTagsOpensFieldsReportsAndShutsDownThroughConnectionPoints) {
   TaggingDesk desk("11.0.0.0");
   auto project = std::dynamic_pointer_cast<sim::SimBarComboBox>(
       BarControl(*desk.explorer, "Quorvix", {"Project"}));
@@ -120,6 +120,17 @@ WINE_TEST(CommandBars, TheUserTagsReportsAndShutsDownThroughConnectionPoints) {
 
   // The Change of the project box tags the selected item.
   project->UserPick(1);
+  CHECK_EQ(desk.Property("ProjectValue"), std::string("Alpha"));
+
+  // "All Fields..." opens the real dialog; the user closes it unsaved.
+  auto allFields = std::dynamic_pointer_cast<sim::SimBarButton>(
+      BarControl(*desk.explorer, "Quorvix", {"All Fields..."}));
+  REQUIRE(allFields != nullptr);
+  Watcher().Take();
+  allFields->UserClick();
+  const std::vector<SeenDialog> fields = Watcher().Take();
+  REQUIRE_EQ(fields.size(), size_t{1});
+  CHECK(fields[0].caption == L"All Project Fields" && !fields[0].messageBox);
   CHECK_EQ(desk.Property("ProjectValue"), std::string("Alpha"));
 
   // The Click reaches the report command.
