@@ -7,6 +7,7 @@
 #include "companion/companion_launch.h"
 #include "companion/section_codes.h"
 #include "core/host_constants.h"
+#include "core/trap.h"
 #include "settings/my_settings.h"
 #include "state/addin_state.h"
 #include "support/about_form.h"
@@ -99,8 +100,12 @@ void cExplorerClient::DeclareMenuHandlers(AddinState& s) {
     menuButtons_[i] = std::make_unique<EventField<cExplorerClient>>(*this, s);
     const Click click = kMenu[i].click;
     if (!click) continue;
+    // Help and Shutdown report through traps of their own; the other entries
+    // run with failures ignored.
     menuButtons_[i]->On("Click", "ExplorerClient.Menu.Click",
-                        [click](cExplorerClient& self, Line&, EventArgs&) { click(self.s_); });
+                        [click](cExplorerClient& self, Line&, EventArgs&) {
+                          IgnoreFailure(self.s_.err, [&] { click(self.s_); });
+                        });
   }
 }
 

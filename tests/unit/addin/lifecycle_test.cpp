@@ -90,21 +90,6 @@ TEST_F(Lifecycle, EveryHostShutdownEventTearsDownAndNothingRestarts) {
   }
 }
 
-TEST_F(Lifecycle, ClosingOneOfTwoExplorersKeepsTheAddin) {
-  Start(world);
-  world.host().OpenExplorer(world.host().Calendar());
-  ASSERT_EQ(world.host().Explorers().size(), 2u);
-  subShutDownOutlook(s());
-  EXPECT_EQ(s().main.phase, AddinPhase::Started);
-  // Closing them: the last one's Close finds no explorer left.
-  for (const auto& explorer : world.host().Explorers()) {
-    EXPECT_EQ(s().main.phase, AddinPhase::Started);
-    world.host().Close(*explorer);
-  }
-  EXPECT_EQ(s().main.phase, AddinPhase::TornDown);
-  EXPECT_TRUE(world.ui().Forms().empty());
-}
-
 // A form that may refuse to unload, as a form with a cancelling unload event does.
 struct StubbornForm final : LoadedForm {
   StubbornForm(std::string name, bool refuses, std::vector<std::string>& unloads)

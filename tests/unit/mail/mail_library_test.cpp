@@ -2,13 +2,52 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "core/dates.h"
+#include "core/text.h"
+#include "platform/posix/native_object.h"
 #include "sim/mail_library_standin.h"
-#include "unit/mail/mail_test_item.h"
 #include "unit/reporting/test_addin.h"
 
 namespace qvx {
 namespace {
+
+// An item with user properties, reached late-bound like a host item:
+// UserProperties.Find(name) gives the property or Nothing, and a property
+// has a Value. Display is counted.
+class MailTestItem {
+ public:
+  MailTestItem() : object_(std::make_shared<platform::NativeObject>("AppointmentItem")) {
+    auto properties = std::make_shared<platform::NativeObject>("UserProperties");
+    properties->Define("Find", [this](InvokeKind, std::vector<Variant>& args) {
+      auto it = properties_.find(FoldCase(platform::RequiredArg(args, 0).ToText()));
+      return it == properties_.end() ? Variant(Object()) : Variant(it->second);
+    });
+    object_->Define("UserProperties", [properties](InvokeKind, std::vector<Variant>&) {
+      return Variant(Object(properties));
+    });
+    object_->Define("Display", [this](InvokeKind, std::vector<Variant>&) {
+      ++displays;
+      return Variant();
+    });
+  }
+
+  // Adds or replaces a property; its Value is read only.
+  MailTestItem& Set(const std::string& name, Variant value) {
+    auto property = std::make_shared<platform::NativeObject>("UserProperty");
+    property->Define("Value", [value](InvokeKind, std::vector<Variant>&) { return value; });
+    properties_[FoldCase(name)] = Object(property);
+    return *this;
+  }
+
+  Object AsObject() const { return Object(object_); }
+  int displays = 0;
+
+ private:
+  std::shared_ptr<platform::NativeObject> object_;
+  std::map<std::string, Object> properties_;
+};
 
 using sim::MailLibraryOptions;
 using sim::MailLibraryStandIn;
@@ -31,7 +70,7 @@ struct MailLibraryTest : ::testing::Test {
   }
 
   testing::TestAddin t;
-  testing::MailTestItem item;
+  MailTestItem item;
   DateValue reportedOn = ComposeDate({2026, 3, 14, 15, 9, 26});
   std::unique_ptr<MailLibraryStandIn> library;
 };
