@@ -99,4 +99,8 @@ timeout -k 30 900 xvfb-run -a bash -c '
 status=$?
 set -e
 echo "== wine tests finished in $((SECONDS - started)) s"
+if ! dpkg-query -W -f='${Status}' wine32:i386 2>/dev/null | grep -q "ok installed"; then
+  echo "!! The x86 QVXClient.dll was built and its surface checked, but NOT run: 32-bit Wine"
+  echo "!! (wine32:i386) is not installed on this machine. Only the x64 DLL was tested."
+fi
 exit "$status"

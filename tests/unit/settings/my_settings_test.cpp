@@ -88,24 +88,25 @@ TEST_F(ReadSettings, AnEmptyStoreGivesTheDefaultsAndIsNotWrittenTo) {
   EXPECT_TRUE(Reports().empty());
 }
 
-TEST_F(ReadSettings, BlankTitlesAndNamesFallBackToTheirDefaults) {
-  Store("ProjectTitle", "   ");
-  Store("ActivityTitle", "  Task  ");
-  Store("CustomList3Name", " ");
-  Store("CustomField7Name", " Mileage ");
+// Titles and field names are trimmed, and a blank one falls back to its
+// default; the fields' title and the default values are kept as stored.
+TEST_F(ReadSettings, BlankTitlesAndNamesFallBackAndOthersStayAsStored) {
+  const struct {
+    const char* name;
+    const char* stored;
+    std::string cMySettings::*member;
+    const char* read;
+  } rows[] = {
+      {"ProjectTitle", "   ", &cMySettings::ProjectTitle, "Project"},
+      {"ActivityTitle", "  Task  ", &cMySettings::ActivityTitle, "Task"},
+      {"CustomList3Name", " ", &cMySettings::CustomList3Name, "Custom Field 3"},
+      {"CustomField7Name", " Mileage ", &cMySettings::CustomField7Name, "Mileage"},
+      {"CustomFieldsTitle", "   ", &cMySettings::CustomFieldsTitle, "   "},
+      {"DefaultValueForProject", "  ", &cMySettings::DefaultValueForProject, "  "},
+  };
+  for (const auto& row : rows) Store(row.name, row.stored);
   Read();
-  EXPECT_EQ(settings.ProjectTitle, "Project");
-  EXPECT_EQ(settings.ActivityTitle, "Task");
-  EXPECT_EQ(settings.CustomList3Name, "Custom Field 3");
-  EXPECT_EQ(settings.CustomField7Name, "Mileage");
-}
-
-TEST_F(ReadSettings, TheFieldsTitleAndDefaultValuesStayBlank) {
-  Store("CustomFieldsTitle", "   ");
-  Store("DefaultValueForProject", "  ");
-  Read();
-  EXPECT_EQ(settings.CustomFieldsTitle, "   ");
-  EXPECT_EQ(settings.DefaultValueForProject, "  ");
+  for (const auto& row : rows) EXPECT_EQ(settings.*row.member, row.read) << row.name;
 }
 
 TEST_F(ReadSettings, AListIsSortedWithoutRegardToCaseAndKeepsTheFirstOfEqualEntries) {
