@@ -10,6 +10,7 @@
 #include "core/trap.h"
 #include "settings/my_settings.h"
 #include "state/addin_state.h"
+#include "support/about_form.h"
 #include "support/app_texts.h"
 #include "support/endpoints.h"
 #include "support/file_module.h"
@@ -85,7 +86,7 @@ constexpr std::array<MenuEntry, 12> kMenu{{
     {"Visit Product Home Page", "Browse to the official home page of Quorvix for Outlook", 3885,
      false, false,
      [](AddinState& s) { FileModule::RunApp(s, ProductWebPage("/Quorvix/"), "", ""); }},
-    {"About Quorvix", "About Quorvix for Outlook", kNoFace, false, false, nullptr},
+    {"About Quorvix", "About Quorvix for Outlook", kNoFace, false, false, ShowAbout},
     {"Shutdown", "Shutdown Quorvix for Outlook", kNoFace, true, false, AskShutdown},
 }};
 

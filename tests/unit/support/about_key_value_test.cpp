@@ -1,6 +1,6 @@
 // The about box's registry read: a value of the machine hive, the key opened
 // with the about box's access and closed on every way out.
-#include "support/about_key_value.h"
+#include "support/about_form.h"
 
 #include <gtest/gtest.h>
 

@@ -35,7 +35,12 @@ struct Children {
 BOOL CALLBACK CollectChild(HWND child, LPARAM data) {
   auto* children = reinterpret_cast<Children*>(data);
   const std::wstring cls = ClassOf(child);
-  if (_wcsicmp(cls.c_str(), L"Static") == 0 || _wcsicmp(cls.c_str(), L"Edit") == 0) {
+  const bool bitmap = (GetWindowLongW(child, GWL_STYLE) & SS_TYPEMASK) == SS_BITMAP;
+  if (_wcsicmp(cls.c_str(), L"Static") == 0 && bitmap) {
+    DWORD_PTR image = 0;
+    SendMessageTimeoutW(child, STM_GETIMAGE, IMAGE_BITMAP, 0, SMTO_ABORTIFHUNG, 2000, &image);
+    if (image != 0) ++children->dialog->pictures;
+  } else if (_wcsicmp(cls.c_str(), L"Static") == 0 || _wcsicmp(cls.c_str(), L"Edit") == 0) {
     children->dialog->texts.push_back(TextOf(child));
   } else if (_wcsicmp(cls.c_str(), L"Button") == 0 && !children->firstStandardButton) {
     // Message boxes use the standard ids (IDOK ... IDCONTINUE); forms use their own.
