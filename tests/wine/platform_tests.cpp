@@ -97,7 +97,7 @@ WINE_TEST(Resources, TheDllHoldsEveryViewDocument) {
       if (entry.path().extension() != ".xml") continue;
       std::wstring name = entry.path().stem().wstring();
       for (wchar_t& c : name) c = towupper(c);
-      Note(entry.path().filename().string());
+      Note(std::string(folder) + "/" + entry.path().filename().string());
       CHECK_EQ(FoundInModule(dll, type, name, kLanguageEnglishUs),
                std::optional<std::string>(FileText(entry.path())));
       ++files;

@@ -23,6 +23,7 @@
 #include "sim/folder.h"
 #include "sim/inspector.h"
 #include "sim/item_classes.h"
+#include "sim/views.h"
 
 namespace qvx::winetest {
 namespace {
@@ -83,10 +84,10 @@ std::shared_ptr<sim::SimBarControl> BarControl(sim::SimExplorer& explorer, const
 }
 
 // Office's IRibbonControl for a control of the explorer ribbon.
-Object RibbonControl(const std::string& id, const Object& context) {
+Object RibbonControl(const std::string& id, const Object& context, const std::string& tag = "") {
   auto control = std::make_shared<sim::FakeObject>("IRibbonControl");
   control->ReadOnly("Id", Variant(id))
-      .ReadOnly("Tag", Variant(""))
+      .ReadOnly("Tag", Variant(tag))
       .ReadOnly("Context", Variant(context));
   return control->AsObject();
 }
@@ -180,6 +181,32 @@ WINE_TEST(Ribbon, TheExplorerRibbonTagsAndReportsThroughIDispatch) {
   CHECK(ribbon.Call("SubExecuteAction", report, none) == CallbackOutcome::Done);
   CHECK_EQ(FinishedLaunches(), (std::vector<std::string>{desk.ReportLine()}));
   Watcher().Take();
+}
+
+// The views menu's content is asked by name at each drop; its entry makes the
+// prepared view in the host's calendar at the first choice and shows it.
+WINE_TEST(Ribbon, TheViewsMenuProvisionsAViewThroughIDispatch) {
+  TaggingDesk desk("16.0.0.0");
+  DllRibbonAddin ribbon(desk.session);
+  const Object context = desk.explorer->AsObject();
+  std::vector<Variant> drop{Variant(RibbonControl("dnViewsCal", context))};
+  Variant content;
+  REQUIRE(ribbon.Call("GetContentXML", drop, content) == CallbackOutcome::Done);
+  const std::string menu = content.ToText();
+  CHECK(menu.rfind("<menu xmlns=\"http://schemas.microsoft.com/office/2009/07/customui\">", 0) ==
+        0);
+  CHECK(menu.find("<button id=\"cmdDefinedView10\" label=\"Reported Items (Filtered)\"") !=
+        std::string::npos);
+
+  const std::string name = "Reported Items (Filtered)";
+  std::vector<Variant> choice{Variant(RibbonControl("cmdDefinedView10", context, name))};
+  Variant none;
+  REQUIRE(ribbon.Call("ExecuteView", choice, none) == CallbackOutcome::Done);
+  sim::SimViews& views = desk.session.world().Calendar()->views();
+  REQUIRE(views.current() != nullptr);
+  CHECK_EQ(views.current()->name(), name);
+  CHECK(views.current()->xml().find("<viewname>") != std::string::npos);
+  CHECK(Watcher().Take().empty());
 }
 
 // Outlook 2007 shows the add-in's own pictures in the inspector's ribbon,
