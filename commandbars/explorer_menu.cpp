@@ -7,8 +7,10 @@
 #include "companion/companion_launch.h"
 #include "companion/section_codes.h"
 #include "core/host_constants.h"
+#include "core/trap.h"
 #include "settings/my_settings.h"
 #include "state/addin_state.h"
+#include "support/about_form.h"
 #include "support/app_texts.h"
 #include "support/endpoints.h"
 #include "support/file_module.h"
@@ -84,7 +86,7 @@ constexpr std::array<MenuEntry, 12> kMenu{{
     {"Visit Product Home Page", "Browse to the official home page of Quorvix for Outlook", 3885,
      false, false,
      [](AddinState& s) { FileModule::RunApp(s, ProductWebPage("/Quorvix/"), "", ""); }},
-    {"About Quorvix", "About Quorvix for Outlook", kNoFace, false, false, nullptr},
+    {"About Quorvix", "About Quorvix for Outlook", kNoFace, false, false, ShowAbout},
     {"Shutdown", "Shutdown Quorvix for Outlook", kNoFace, true, false, AskShutdown},
 }};
 
@@ -98,8 +100,12 @@ void cExplorerClient::DeclareMenuHandlers(AddinState& s) {
     menuButtons_[i] = std::make_unique<EventField<cExplorerClient>>(*this, s);
     const Click click = kMenu[i].click;
     if (!click) continue;
+    // Help and Shutdown report through traps of their own; the other entries
+    // run with failures ignored.
     menuButtons_[i]->On("Click", "ExplorerClient.Menu.Click",
-                        [click](cExplorerClient& self, Line&, EventArgs&) { click(self.s_); });
+                        [click](cExplorerClient& self, Line&, EventArgs&) {
+                          IgnoreFailure(self.s_.err, [&] { click(self.s_); });
+                        });
   }
 }
 

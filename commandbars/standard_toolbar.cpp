@@ -3,6 +3,7 @@
 #include "commandbars/standard_toolbar.h"
 
 #include "commandbars/bar_controls.h"
+#include "commandbars/views_toolbar.h"
 #include "core/host_constants.h"
 #include "settings/local_settings.h"
 #include "settings/my_settings.h"
@@ -117,6 +118,11 @@ void cStandardTB::subAddButtons() noexcept {
     objExplorerToolbar.Put("Visible", Variant(true));
     line = 30;
     AddControls(line, objExplorerToolbar.Get("Controls").ToObject());
+    if (blnExplorerHost) {
+      objViews = std::make_shared<cViews>(s);
+      objViews->oueCurrExplorer = window;
+      objViews->subAddButtons(objExplorerToolbar);
+    }
     line = 90;
     if (GetVersion(s) >= 14) objExplorerToolbar.Put("Visible", Variant(false));
   });
@@ -207,6 +213,10 @@ void cStandardTB::subRemoveButtons() noexcept {
   DeleteControl(err, cmdWithdrawReport);
   DeleteControl(err, cboStaticFields);
   DeleteControl(err, cmdReport);
+  if (objViews) {
+    objViews->RemoveButtons();
+    objViews.reset();
+  }
   DeleteControl(err, objExplorerToolbar);
   SweepBars(err, oueCurrExplorer.object(), kBarName);
   SweepBars(err, oueCurrInspector.object(), kBarName);

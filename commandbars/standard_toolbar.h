@@ -29,6 +29,7 @@
 namespace qvx {
 
 class AddinState;
+class cViews;
 struct StandardToolbarPool;
 
 class cStandardTB : public std::enable_shared_from_this<cStandardTB> {
@@ -91,6 +92,7 @@ class cStandardTB : public std::enable_shared_from_this<cStandardTB> {
   EventField<cStandardTB> cmdReport;
   EventField<cStandardTB> cmdWithdrawReport;
   EventField<cStandardTB> cboStaticFields;  // a button, despite its name
+  std::shared_ptr<cViews> objViews;         // the views pop-up; explorer bars only
   bool blnFieldsShown = false;
   bool blnExplorerHost = false;
   // What this object last put on its controls, so that the copies to the

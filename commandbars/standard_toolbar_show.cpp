@@ -2,6 +2,7 @@
 // ribbon reads.
 #include "commandbars/bar_controls.h"
 #include "commandbars/standard_toolbar.h"
+#include "commandbars/views_toolbar.h"
 #include "core/text.h"
 #include "settings/my_settings.h"
 #include "settings/settings_lists.h"
@@ -212,6 +213,7 @@ void cStandardTB::UpdateToolbar() noexcept {
       }
     }
     line = 60;
+    if (objViews) objViews->UpdateToolbar();
     if (oueCurrInspector) s.upward().subInvalidateRibbon();
   });
 }

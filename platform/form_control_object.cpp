@@ -25,7 +25,8 @@ enum Kinds : unsigned {
   kListBit = 32,
   kCheckBit = 64,
   kImageBit = 128,
-  kAll = 255,
+  kPictureBit = 256,
+  kAll = 511,
   kRows = kComboBit | kListBit,
   kTexts = kTextBoxBit | kRows,
   kCaptioned = kLabelBit | kButtonBit | kCheckBit | kFrameBit,
@@ -37,14 +38,15 @@ struct KindInfo {
   const char* typeName;
 };
 
-constexpr std::array<KindInfo, 8> kKinds{{{kind::kLabel, kLabelBit, "Label"},
+constexpr std::array<KindInfo, 9> kKinds{{{kind::kLabel, kLabelBit, "Label"},
                                           {kind::kButton, kButtonBit, "CommandButton"},
                                           {kind::kTextBox, kTextBoxBit, "TextBox"},
                                           {kind::kFrame, kFrameBit, "Frame"},
                                           {kind::kCombo, kComboBit, "ComboBox"},
                                           {kind::kList, kListBit, "ListBox"},
                                           {kind::kCheck, kCheckBit, "CheckBox"},
-                                          {kind::kImage, kImageBit, "Image"}}};
+                                          {kind::kImage, kImageBit, "Image"},
+                                          {kind::kPicture, kPictureBit, "PictureBox"}}};
 
 const KindInfo* InfoOf(const FormControl& c) {
   for (const KindInfo& k : kKinds) {

@@ -41,6 +41,9 @@ inline constexpr char kCombo[] = "combo";
 inline constexpr char kList[] = "list";
 inline constexpr char kCheck[] = "check";
 inline constexpr char kImage[] = "image";  // a mark with a tool tip
+// A picture of the add-in's resources (platform/resources.h), named by the
+// control's `picture`, drawn at its own size.
+inline constexpr char kPicture[] = "picture";
 }  // namespace kind
 
 // A combo box's Style: free text, or rows only (its Text cannot be set to
@@ -74,6 +77,7 @@ struct FormControl {
   bool multiLine = false;
   bool isDefault = false;  // the button that Enter clicks
   bool isCancel = false;   // the button that Esc clicks
+  std::string picture;     // a picture control's resource name ("About")
   // Where the form's designer put it, in twips from the form's top left;
   // a width of 0 leaves the place to the view (top to bottom in tab order).
   int left = 0, top = 0, width = 0, height = 0;

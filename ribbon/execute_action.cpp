@@ -12,6 +12,7 @@
 #include "ribbon/ribbon_contexts.h"
 #include "ribbon/ribbon_control.h"
 #include "state/addin_state.h"
+#include "support/about_form.h"
 #include "support/app_texts.h"
 #include "support/endpoints.h"
 #include "support/file_module.h"
@@ -71,6 +72,8 @@ void SubExecuteAction(AddinState& s, const Variant& control) noexcept {
     } else if (id == "cmdVisitHomepage") {
       line = 50;
       IgnoreFailure(s.err, [&] { FileModule::RunApp(s, ProductWebPage("/Quorvix/"), "", ""); });
+    } else if (id == "cmdAbout") {
+      ShowAbout(s);
     } else {
       line = 60;
       s.ui().MessageBox("not implemented - " + id, platform::msgbox::kOkOnly, kMessageTitle);

@@ -8,6 +8,7 @@
 #include "ribbon/execute_action.h"
 #include "ribbon/ribbon_images.h"
 #include "ribbon/state_callbacks.h"
+#include "ribbon/views_menu.h"
 #include "state/addin_state.h"
 
 namespace qvx {
@@ -79,6 +80,12 @@ constexpr std::array kCallbacks = {
                    }},
     RibbonCallback{"SubExecuteAction", 1,
                    [](AddinState& s, Args& args, Variant&) { SubExecuteAction(s, args[0]); }},
+    RibbonCallback{"GetContentXML", 1,
+                   [](AddinState& s, Args& args, Variant& result) {
+                     result = Variant(GetContentXML(s, args[0]));
+                   }},
+    RibbonCallback{"ExecuteView", 1,
+                   [](AddinState& s, Args& args, Variant&) { ExecuteView(s, args[0]); }},
 };
 
 }  // namespace

@@ -6,6 +6,10 @@ std::string ControlId(const Variant& control) {
   return control.ToObject().Get("Id").ToText();
 }
 
+std::string ControlTag(const Variant& control) {
+  return control.ToObject().Get("Tag").ToText();
+}
+
 Object ControlContext(const Variant& control) {
   const Variant context = control.ToObject().Get("Context");
   return context.IsObject() ? context.ToObject() : Object();

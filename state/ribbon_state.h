@@ -49,7 +49,7 @@ struct ExplorerRibbonValues {
   bool WITHDRAW_BUTTON_VISIBLE = false;
   std::string REPORT_BUTTON_CAPTION;
   std::string WITHDRAW_BUTTON_CAPTION;
-  std::string LAST_VIEW_NAME;  // written by the views menu; nothing reads it
+  std::string LAST_VIEW_NAME;  // the views menu's last choice; nothing reads it
 
   // Custom field `field` (1 to 4): its value, enabled and shown flags.
   std::string& SelectedCustomFieldValue(int field);

@@ -1,9 +1,9 @@
-#include "support/about_key_value.h"
+#include "support/about_form.h"
 
-namespace qvx::fAbout {
+namespace qvx {
 
-bool GetKeyValue(platform::RegistryApi& registry, platform::Hive Root, std::string_view KeyName,
-                 std::string_view ValueName, std::string& Value) {
+bool fAbout::GetKeyValue(platform::RegistryApi& registry, platform::Hive Root,
+                         std::string_view KeyName, std::string_view ValueName, std::string& Value) {
   const auto [opened, key] = registry.OpenA(Root, KeyName, platform::kKeyAllAccessRead);
   if (opened != platform::kErrorSuccess) {
     Value.clear();
@@ -18,4 +18,4 @@ bool GetKeyValue(platform::RegistryApi& registry, platform::Hive Root, std::stri
   return true;
 }
 
-}  // namespace qvx::fAbout
+}  // namespace qvx

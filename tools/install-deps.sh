@@ -2,8 +2,10 @@
 # Installs what the builds and tests need on a Debian machine; does nothing
 # for packages that are already there. Pass "windows" to add the MinGW-w64
 # cross compilers, Wine, Xvfb and the GoogleTest sources (built for Windows).
+# clang and its runtime (libFuzzer, the sanitizers) build the fuzz targets.
 set -euo pipefail
-packages=(g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev clang-format python3 python3-xmlschema libxml2-dev)
+packages=(g++ cmake ninja-build libgtest-dev libgmock-dev libbenchmark-dev clang-format python3 python3-xmlschema libxml2-dev
+          clang libclang-rt-14-dev)
 if [[ "${1:-}" == "windows" ]]; then
   packages+=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64 xvfb xauth googletest
              locales)

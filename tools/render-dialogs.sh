@@ -20,6 +20,7 @@ root=$(pwd)
 dialogs=(
   "error-report|Unknown Exception|docs/images/error-report.png"
   "fields|All Project Fields|docs/images/all-project-fields.png"
+  "about|About|docs/images/about.png"
 )
 
 install() {

@@ -3,13 +3,14 @@
 namespace qvx::scenario {
 
 std::string_view DemoScript() {
-  return R"(# The demo: one working day's start of a configured user.
+  return R"demo(# The demo: one working day's start of a configured user.
 say "A user whose settings ask for a sync, the automatic report and the upgrade check."
 registry set DBChoice 1
 registry set DBConnectionString "Provider=SQLOLEDB;Data Source=timesheets;Initial Catalog=QVX"
 registry set AutoSyncToDB -1
 registry set ReportIemsOnDueDateLapsedAutomatically -1
 registry set AutoCheckForUpgradeAtStartup -1
+registry set AllowAppointmentItems -1
 show registry
 
 say "Outlook starts and loads the add-in."
@@ -63,6 +64,32 @@ expect launch QuorvixClient "0|0000000038A1BB1005E5101AA1BB08002B2A56C200000001|
 expect journal QuorvixClient report "0|0000000038A1BB1005E5101AA1BB08002B2A56C200000001|E1;,E2;"
 show journal
 
+say "The companion has written the report numbers onto the items and asks for fresh toolbars."
+item property "Kick-off" ReportedID 101
+item property "Kick-off" Reported -1
+item property "Wireframes" ReportedID 102
+item property "Wireframes" Reported -1
+post client 2
+pump
+explorer select "Kick-off"
+expect explorer-value REPORT_BUTTON_CAPTION "Update #101"
+
+say "The user looks at the reported items through a prepared view, chosen in the ribbon's views menu."
+ribbon open Microsoft.Outlook.Explorer
+ribbon drop dnViewsCal
+expect ribbon-menu "Reported ID" "Reported State" "Project and Activity" Project Activity "Due Date" "Items without Project (Filtered)" "Items without Activity (Filtered)" "Items without Project and Activity (Filtered)" "Reported Items (Filtered)" "Unreported Items (Filtered)" "Calendar view of Reported Items (Filtered)" "Calendar view of Unreported Items (Filtered)" - Calendar
+ribbon view dnViewsCal "Reported Items (Filtered)"
+say "The view is made in the calendar at this first choice, filtered on the reported flag, and shown."
+expect views Calendar Calendar "Reported Items (Filtered)"
+expect current-view Calendar "Reported Items (Filtered)"
+expect view-filter Calendar "Reported Items (Filtered)" "Reported = 1"
+expect view-headings Calendar "Reported Items (Filtered)" Icon Attachment ID Subject Project Activity Start End Categories "Reported Date" "Reported By"
+show views Calendar
+say "Chosen again, it is only applied."
+ribbon view dnViewsCal "Reported Items (Filtered)"
+expect view Calendar "Reported Items (Filtered)" applies 2
+expect items-made Calendar 1
+
 say "Outlook shuts down; the listener window goes with the add-in."
 addin shutdown
 expect addin torn-down
@@ -70,7 +97,7 @@ expect no-window "Client Window - Quorvix Client for Outlook"
 expect no-msgbox
 expect no-error-report
 say "Demo done."
-)";
+)demo";
 }
 
 }  // namespace qvx::scenario

@@ -3,6 +3,8 @@
 //   qvx-sim run FILE...   runs each script; exit 0 when every one held
 //   qvx-sim demo          runs the built-in demo
 //   qvx-sim verbs         lists the verbs of the scenario language
+//   qvx-sim soak SEED OPERATIONS [FAULT-PERCENT]
+//                         random user actions while host members fail
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -10,6 +12,7 @@
 #include "apps/qvx-sim/demo_script.h"
 #include "apps/qvx-sim/runner.h"
 #include "apps/qvx-sim/script.h"
+#include "apps/qvx-sim/soak.h"
 
 namespace {
 
@@ -18,7 +21,9 @@ using qvx::scenario::Script;
 constexpr char kUsage[] =
     "usage: qvx-sim run FILE...   run scenario scripts\n"
     "       qvx-sim demo          run the built-in demo\n"
-    "       qvx-sim verbs         list the scenario language's verbs\n";
+    "       qvx-sim verbs         list the scenario language's verbs\n"
+    "       qvx-sim soak SEED OPERATIONS [FAULT-PERCENT]\n"
+    "                             random user actions while host members fail\n";
 
 // 0 held, 1 an expectation failed, 2 the script is malformed or unreadable.
 int RunText(std::string_view text, const std::string& name, const qvx::scenario::VerbTable& verbs) {
@@ -63,6 +68,13 @@ int main(int argc, char** argv) {
     if (command == "run" && argc > 2) return RunFiles(argc, argv, verbs);
     if (command == "demo" && argc == 2) return RunText(qvx::scenario::DemoScript(), "demo", verbs);
     if (command == "verbs" && argc == 2) return ListVerbs(verbs);
+    if (command == "soak" && (argc == 4 || argc == 5)) {
+      qvx::scenario::SoakOptions options;
+      options.seed = static_cast<uint32_t>(std::stoul(argv[2]));
+      options.operations = std::stol(argv[3]);
+      if (argc == 5) options.faultPercent = std::stoi(argv[4]);
+      return qvx::scenario::RunSoak(options, verbs, std::cout, std::cerr);
+    }
     std::cerr << kUsage;
     return command == "--help" || command == "-h" ? 0 : 2;
   } catch (const std::exception& e) {

@@ -4,7 +4,8 @@
 // own test toolbar, or what an earlier run of the add-in left behind).
 //
 // A CONTROL is a caption (as set, "&About", or as shown, "About") or a tag;
-// "Quorvix Client>About Quorvix" walks into a pop-up.
+// "Quorvix Client>About Quorvix" walks into a pop-up. The views pop-up
+// ("View: Calendar") is reached by `bar view` whatever view it names.
 #include <limits>
 
 #include "apps/qvx-sim/verbs.h"
@@ -107,6 +108,22 @@ std::string FieldOf(sim::SimBarControl& control, const std::string& field,
   throw UsageError("unknown field \"" + field + "\"");
 }
 
+// The user's click on a button or menu entry found by ClickableControl.
+void UserClick(const std::shared_ptr<sim::SimBarControl>& control, const std::string& path) {
+  auto* button = dynamic_cast<sim::SimBarButton*>(control.get());
+  if (!button) throw ExpectationFailed(Shown(path) + " a button", "(not a button)");
+  button->UserClick();
+}
+
+// The views pop-up of a bar: its first pop-up whose caption begins with
+// "View", whatever view it names now.
+std::shared_ptr<sim::SimBarControl> ViewsPopup(World& w, const std::string& barName) {
+  for (const auto& control : Bar(w, barName)->controls().list()) {
+    if (control->children() && control->ShownCaption().starts_with("View")) return control;
+  }
+  throw ExpectationFailed("a views pop-up on " + Shown(barName), "(none)");
+}
+
 void AddSetupVerbs(VerbTable& table) {
   table.Add("bar add", "bar add NAME [kept]",
             "a shown bar on the active window, temporary unless kept (as one an earlier run "
@@ -158,10 +175,15 @@ void AddUserVerbs(VerbTable& table) {
             "the user clicks a button or menu entry; the host raises Click",
             [](World& w, const Args& a) {
               a.Expect(2);
-              auto control = Control(w, a.At(0), a.At(1), true);
-              auto* button = dynamic_cast<sim::SimBarButton*>(control.get());
-              if (!button) throw ExpectationFailed(Shown(a.At(1)) + " a button", "(not a button)");
-              button->UserClick();
+              UserClick(Control(w, a.At(0), a.At(1), true), a.At(1));
+            });
+  table.Add("bar view", "bar view BAR ENTRY",
+            "the user drops the views pop-up of the bar (\"View: ...\", whatever view it names) "
+            "and clicks ENTRY",
+            [](World& w, const Args& a) {
+              a.Expect(2);
+              const std::string path = ViewsPopup(w, a.At(0))->caption() + ">" + a.At(1);
+              UserClick(Control(w, a.At(0), path, true), a.At(1));
             });
   table.Add("bar type", "bar type BAR CONTROL TEXT",
             "the user types into an edit or combo box; the host raises Change",
@@ -209,6 +231,20 @@ void AddExpectVerbs(VerbTable& table) {
               sim::SimBarControls* entries = Control(w, a.At(0), a.At(1))->children();
               if (!entries) throw ExpectationFailed(Shown(a.At(1)) + " a pop-up", "(not one)");
               ExpectWords(Rest(a, 2), ShownCaptions(*entries));
+            });
+  table.Add("expect bar-views", "expect bar-views BAR CAPTION [ENTRY...]",
+            "the views pop-up of the bar: its shown caption, then its shown entries in order, "
+            "with a word - where a line begins a group",
+            [](World& w, const Args& a) {
+              a.Expect(2, kAnyCount);
+              const auto popup = ViewsPopup(w, a.At(0));
+              std::vector<std::string> seen{popup->ShownCaption()};
+              for (const auto& entry : popup->children()->list()) {
+                if (!entry->visible()) continue;
+                if (entry->beginGroup() && seen.size() > 1) seen.push_back("-");
+                seen.push_back(entry->ShownCaption());
+              }
+              ExpectWords(Rest(a, 1), seen);
             });
   table.Add("expect control", "expect control BAR CONTROL FIELD VALUE...",
             "FIELD: caption, enabled, visible (yes|no), tag, tooltip, begin-group, text, list "

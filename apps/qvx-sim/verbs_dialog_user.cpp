@@ -51,6 +51,7 @@ const std::map<std::string, std::function<std::string(const FormControl&)>> kPro
     {"list-index", [](const FormControl& c) { return std::to_string(c.listIndex); }},
     {"tip", [](const FormControl& c) { return c.toolTip; }},
     {"list", [](const FormControl& c) { return Join(c.list, "\n"); }},
+    {"picture", [](const FormControl& c) { return c.picture; }},
 };
 
 // The dialog that the last `expect dialog` (or `expect form`, `expect error-report`) took.
@@ -158,7 +159,7 @@ void RegisterDialogUserVerbs(VerbTable& table) {
             });
   table.Add("expect dialog-control", "expect dialog-control CONTROL PROPERTY [VALUE...]",
             "in the dialog last expected, as it opened: caption, text, enabled, visible, locked, "
-            "value (true|false), list-index, tip, or list (one word a row)",
+            "value (true|false), list-index, tip, picture, or list (one word a row)",
             [](World& w, const Args& a) { ExpectControl(CurrentDialog(w).controls, a); });
   table.Add("expect dialog-control-at-close",
             "expect dialog-control-at-close CONTROL PROPERTY [VALUE...]",

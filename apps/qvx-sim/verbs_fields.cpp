@@ -1,7 +1,9 @@
-// command fields: the All Project Fields dialog as the user opens it.
+// command fields, command about: the All Project Fields dialog and the About box
+// as the user opens them.
 #include "apps/qvx-sim/verbs.h"
 #include "apps/qvx-sim/world.h"
 #include "reporting/fields_form.h"
+#include "support/about_form.h"
 
 namespace qvx::scenario {
 
@@ -12,6 +14,12 @@ void RegisterFieldsVerbs(VerbTable& table) {
             [](World& w, const Args& a) {
               a.Expect(0);
               ShowStaticFields(w.addin().state());
+            });
+  table.Add("command about", "command about",
+            "the user gives the About command (the menu's About Quorvix, the backstage's About)",
+            [](World& w, const Args& a) {
+              a.Expect(0);
+              ShowAbout(w.addin().state());
             });
 }
 

@@ -1,4 +1,4 @@
-// registry set / set-dword / set-binary / file / expect / expect-absent
+// registry set / set-machine / set-dword / set-binary / file / expect / expect-absent
 #include <fstream>
 
 #include "apps/qvx-sim/verbs.h"
@@ -32,6 +32,13 @@ void RegisterRegistryVerbs(VerbTable& table) {
               a.Expect(2);
               const ValuePath p = PathOf(a.At(0));
               Written(w.registry().SetString(p.key, p.name, a.At(1)), a.At(0));
+            });
+  table.Add("registry set-machine", "registry set-machine KEY\\NAME TEXT",
+            "writes a text value (REG_SZ) under HKEY_LOCAL_MACHINE", [](World& w, const Args& a) {
+              a.Expect(2);
+              const ValuePath p = PathOf(a.At(0));
+              Written(w.registry().SetString(p.key, p.name, a.At(1), platform::Hive::LocalMachine),
+                      a.At(0));
             });
   table.Add("registry set-dword", "registry set-dword NAME NUMBER",
             "writes a REG_DWORD value (not a string, for the store's type check)",

@@ -144,6 +144,18 @@ void RegisterActions(VerbTable& table) {
               a.Expect(1);
               Check(Window(w).DropMenu(a.At(0)), a.At(0));
             });
+  table.Add("ribbon view", "ribbon view MENU LABEL",
+            "the user drops the dynamic menu MENU and clicks its first entry showing LABEL",
+            [](World& w, const Args& a) {
+              a.Expect(2);
+              Check(Window(w).DropMenu(a.At(0)), a.At(0));
+              std::vector<std::string> labels;
+              for (const sim::ShownControl& entry : Window(w).DroppedMenu().children) {
+                if (entry.label == a.At(1)) return Check(Window(w).Click(entry.id), entry.id);
+                labels.push_back(entry.label);
+              }
+              throw ExpectationFailed("an entry " + Shown(a.At(1)), Joined(labels));
+            });
   table.Add("ribbon context-menu", "ribbon context-menu IDMSO",
             "the user right-clicks the active explorer's selection where the built-in menu "
             "IDMSO opens",
@@ -205,6 +217,18 @@ void RegisterExpectations(VerbTable& table) {
                 expected = a.At(2);
               }
               ExpectEqual(expected, PropertyOf(ShownOrFail(w, a.At(0)), property));
+            });
+  table.Add("expect ribbon-menu", "expect ribbon-menu [LABEL...]",
+            "the shown entries of the dropped dynamic menu by label, in order; a separator is "
+            "a word -",
+            [](World& w, const Args& a) {
+              a.Expect(0, 1000);
+              std::vector<std::string> labels;
+              for (const sim::ShownControl& entry : Window(w).DroppedMenu().children) {
+                if (!entry.visible) continue;
+                labels.push_back(entry.kind == "menuSeparator" ? "-" : entry.label);
+              }
+              ExpectWords(Rest(a, 0), labels);
             });
   table.Add("expect ribbon-hidden", "expect ribbon-hidden ID",
             "the user doesn't see the control: hidden, under something hidden, or absent",

@@ -54,6 +54,10 @@ void RegisterShowVerbs(VerbTable& table) {
                   if (!control.text.empty()) {
                     Out(w) << "    " << control.name << " " << Shown(control.text) << "\n";
                   }
+                  if (!control.picture.empty()) {
+                    Out(w) << "    " << control.name << " picture " << Shown(control.picture)
+                           << "\n";
+                  }
                 }
               }
             });

@@ -1,6 +1,8 @@
 // view add / edit, views load, expect views / current-view / view /
-// view-headings / view-filter / folder-fields / items-made: the views of a
-// folder, what their documents show, and the fields they need.
+// view-headings / view-filter / folder-fields / items-made, show views: the
+// views of a folder, what their documents show, and the fields they need.
+#include <ostream>
+
 #include "apps/qvx-sim/verbs.h"
 #include "apps/qvx-sim/world.h"
 #include "core/host_constants.h"
@@ -37,6 +39,14 @@ std::string Unqualified(std::string_view text) {
               "http://schemas.microsoft.com/mapi/string/{00020329-0000-0000-C000-000000000046}/",
               ""),
       "\"", "");
+}
+
+std::vector<std::string> HeadingsOf(const sim::ViewElement& doc) {
+  std::vector<std::string> headings;
+  for (const auto* column : doc.Children("column")) {
+    if (!column->Child("name")) headings.push_back(column->ChildText("heading"));
+  }
+  return headings;
 }
 
 void AddUserVerbs(VerbTable& table) {
@@ -110,12 +120,7 @@ void AddExpectVerbs(VerbTable& table) {
             "without a heading is left out)",
             [](World& w, const Args& a) {
               a.Expect(2, 100);
-              const sim::ViewElement doc = DocumentOf(*ViewNamed(w, a.At(0), a.At(1)));
-              std::vector<std::string> headings;
-              for (const auto* column : doc.Children("column")) {
-                if (!column->Child("name")) headings.push_back(column->ChildText("heading"));
-              }
-              ExpectWords(Rest(a, 2), headings);
+              ExpectWords(Rest(a, 2), HeadingsOf(DocumentOf(*ViewNamed(w, a.At(0), a.At(1)))));
             });
   table.Add("expect view-filter", "expect view-filter FOLDER NAME TEXT",
             "the view document's filter, user properties by their names alone and without "
@@ -147,6 +152,25 @@ void AddExpectVerbs(VerbTable& table) {
 void RegisterViewVerbs(VerbTable& table) {
   AddUserVerbs(table);
   AddExpectVerbs(table);
+  table.Add("show views", "show views FOLDER",
+            "prints the folder's views: the one shown marked *, and of each document its "
+            "filter and column headings",
+            [](World& w, const Args& a) {
+              a.Expect(1);
+              if (w.out == nullptr) throw UsageError("no output");
+              const auto folder = FolderNamed(w, a.At(0));
+              for (const auto& view : folder->views().list()) {
+                *w.out << (view == folder->views().current() ? "  * " : "    ") << view->name()
+                       << "\n";
+                const auto doc = sim::ParseViewDocument(view->xml());
+                if (!doc) continue;
+                if (const sim::ViewElement* filter = doc->Child("filter")) {
+                  *w.out << "      filter " << Unqualified(filter->text) << "\n";
+                }
+                const std::vector<std::string> headings = HeadingsOf(*doc);
+                if (!headings.empty()) *w.out << "      columns " << Joined(headings) << "\n";
+              }
+            });
 }
 
 }  // namespace qvx::scenario

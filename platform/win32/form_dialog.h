@@ -13,9 +13,10 @@
 // the box. The close box raises QueryClose, whose Cancel keeps the dialog.
 // Combo and list boxes show the model's rows; choosing one raises Change and
 // Click, an edit Change after the new text is in the model, a click on a
-// button, label or image Click. After every event the dialog shows the model
-// again; it closes when the model has unloaded. No exception leaves the
-// dialog procedure.
+// button, label, image or picture Click. A picture shows its bitmap resource
+// of the add-in's module. After every event the dialog shows the model again;
+// it closes when the model has unloaded. No exception leaves the dialog
+// procedure.
 #pragma once
 
 #include "platform/form_model.h"

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/win32/com_module.h"
+#include "platform/win32/resources_win32.h"
 #include "platform/win32/wide_text.h"
 
 namespace qvx::win32::detail {
@@ -71,6 +72,7 @@ WindowKind KindOf(const platform::FormControl& c) {
     return {L"LISTBOX", focus | LBS_NOTIFY | WS_VSCROLL | multi, WS_EX_CLIENTEDGE};
   }
   if (c.kind == kind::kImage) return {L"STATIC", WS_CHILD | SS_NOTIFY | SS_ETCHEDFRAME, 0};
+  if (c.kind == kind::kPicture) return {L"STATIC", WS_CHILD | SS_NOTIFY | SS_BITMAP, 0};
   return {L"STATIC", WS_CHILD | WS_GROUP | SS_NOTIFY, 0};  // labels; clickable ones raise Click
 }
 
@@ -157,6 +159,12 @@ void FormView::Create(HWND dialog) {
       }
     }
     AddToolTip(hwnd);
+    if (c.kind == kind::kPicture) {
+      if (UniqueBitmap picture = LoadBitmapResource(ThisModule(), c.picture)) {
+        SendMessageW(hwnd, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(picture.get()));
+        pictures_.push_back(std::move(picture));
+      }
+    }
     if (c.kind == kind::kButton && c.isDefault) {
       SendMessageW(dialog, DM_SETDEFID, static_cast<WPARAM>(kFirstControlId + static_cast<int>(i)),
                    0);
@@ -225,7 +233,8 @@ void FormView::OnCommand(int id, int code, HWND from) {
   } else if (c.kind == kind::kCheck && code == BN_CLICKED) {
     if (!c.locked) model_.Ticked(name, SendMessageW(hwnd, BM_GETCHECK, 0, 0) == BST_CHECKED);
   } else if ((c.kind == kind::kButton && code == BN_CLICKED) ||
-             ((c.kind == kind::kLabel || c.kind == kind::kImage) && code == STN_CLICKED)) {
+             ((c.kind == kind::kLabel || c.kind == kind::kImage || c.kind == kind::kPicture) &&
+              code == STN_CLICKED)) {
     model_.Raise(name, "Click");
   } else {
     return;
@@ -270,7 +279,7 @@ void FormView::Sync() {
       SendMessageW(hwnd, EM_LIMITTEXT, static_cast<WPARAM>(c.maxLength), 0);
     } else if (c.kind == kind::kCombo || c.kind == kind::kList) {
       ShowRows(hwnd, c);
-    } else if (c.kind != kind::kImage) {
+    } else if (c.kind != kind::kImage && c.kind != kind::kPicture) {
       SetText(hwnd, Wide(c.caption));
     }
     if (c.kind == kind::kCheck) {

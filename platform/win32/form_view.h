@@ -4,7 +4,8 @@
 // Create makes one child window per control in declared order (so the
 // dialog's tab order is the model's), with WS_TABSTOP on what takes the
 // focus, BS_DEFPUSHBUTTON on the model's default button, and the dialog's
-// font. Text and combo boxes are subclassed so that every typed character
+// font. A picture control shows its bitmap resource of the add-in's module.
+// Text and combo boxes are subclassed so that every typed character
 // raises KeyPress first; a key the model swallows never reaches the box.
 // Sync shows the model again (texts, lists, states, places) after each event.
 #pragma once
@@ -15,6 +16,7 @@
 #include <vector>
 
 #include "platform/form_model.h"
+#include "platform/win32/win_handles.h"
 
 namespace qvx::win32::detail {
 
@@ -46,6 +48,7 @@ class FormView {
   HFONT font_ = nullptr;
   HWND tips_ = nullptr;
   std::vector<HWND> windows_;
+  std::vector<UniqueBitmap> pictures_;  // shown by picture controls, freed after them
   std::wstring tip_;
   bool syncing_ = false;
 };

@@ -9,8 +9,6 @@
 namespace qvx::win32 {
 namespace {
 
-using UniqueBitmap = UniqueAny<HBITMAP, CloseWith<&DeleteObject>>;
-
 struct WantedLanguage {
   WORD language;
   bool found;
@@ -31,6 +29,11 @@ bool HasLanguage(HMODULE module, LPCWSTR type, LPCWSTR name, WORD language) {
 
 }  // namespace
 
+UniqueBitmap LoadBitmapResource(HMODULE module, std::string_view name) {
+  return UniqueBitmap(static_cast<HBITMAP>(
+      LoadImageW(module, Wide(name).c_str(), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+}
+
 std::optional<std::string> Win32Resources::FindData(std::string_view type, std::string_view name,
                                                     uint16_t language) {
   // The look-up upper-cases string names and types, as the compiler stored them.
@@ -46,8 +49,7 @@ std::optional<std::string> Win32Resources::FindData(std::string_view type, std::
 }
 
 Object Win32Resources::FindPicture(std::string_view name) {
-  UniqueBitmap bitmap(static_cast<HBITMAP>(
-      LoadImageW(module_, Wide(name).c_str(), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION)));
+  UniqueBitmap bitmap = LoadBitmapResource(module_, name);
   if (!bitmap) return Object();
   PICTDESC description{};
   description.cbSizeofstruct = sizeof(description);

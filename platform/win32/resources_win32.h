@@ -5,8 +5,12 @@
 
 #include "platform/resources.h"
 #include "platform/win32/win32_api.h"
+#include "platform/win32/win_handles.h"
 
 namespace qvx::win32 {
+
+// The bitmap resource `name` of `module` as a DIB section; empty if none.
+UniqueBitmap LoadBitmapResource(HMODULE module, std::string_view name);
 
 class Win32Resources final : public platform::Resources {
  public:

@@ -113,6 +113,7 @@ class ScopedVariant {
 // Owned handles of the system, each closed exactly once by its own call.
 using UniqueHkey = UniqueAny<HKEY, CloseWith<&RegCloseKey>>;
 using UniqueHwnd = UniqueAny<HWND, CloseWith<&DestroyWindow>>;
+using UniqueBitmap = UniqueAny<HBITMAP, CloseWith<&DeleteObject>>;
 // A kernel handle; calls that fail with INVALID_HANDLE_VALUE go through
 // KernelHandle, so that the owner holds nothing.
 using UniqueHandle = UniqueAny<HANDLE, CloseWith<&CloseHandle>>;

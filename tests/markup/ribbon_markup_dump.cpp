@@ -1,6 +1,7 @@
-// Writes every customUI document the add-in can give a host into a folder,
-// one file each, for the schema check (tools/validate-custom-ui.py). A
-// ribbon id the add-in answers with nothing gets no file.
+// Writes every customUI document the add-in can give a host (the ribbons and
+// the views menus' content) into a folder, one file each, for the schema
+// check (tools/validate-custom-ui.py). A ribbon id the add-in answers with
+// nothing gets no file.
 //
 //   ribbon_markup_dump OUTDIR
 #include <fstream>
@@ -14,7 +15,9 @@ int main(int argc, char** argv) {
     return 2;
   }
   int written = 0;
-  for (const qvx::testing::RibbonDocument& d : qvx::testing::EveryRibbonDocument()) {
+  auto documents = qvx::testing::EveryRibbonDocument();
+  for (auto& menu : qvx::testing::EveryViewsMenuDocument()) documents.push_back(std::move(menu));
+  for (const qvx::testing::RibbonDocument& d : documents) {
     if (d.markup.empty()) continue;
     std::ofstream out(std::string(argv[1]) + "/" + d.name + ".xml", std::ios::binary);
     out << d.markup;

@@ -60,14 +60,22 @@ void Fields() {
   local.s.ui().ShowModal(form);
 }
 
+// The about box, from the backstage's About task.
+void About() {
+  WriteSettings({{L"DBChoice", L"1"}});
+  AddinSession session;
+  session.Start();
+  session.ClickRibbon("cmdAbout");
+}
+
 }  // namespace
 
 int ShowDialog(const std::string& name) {
-  const std::map<std::string, std::function<void()>> dialogs = {{"error-report", ErrorReport},
-                                                                {"fields", Fields}};
+  const std::map<std::string, std::function<void()>> dialogs = {
+      {"error-report", ErrorReport}, {"fields", Fields}, {"about", About}};
   const auto it = dialogs.find(name);
   if (it == dialogs.end()) {
-    std::printf("no dialog \"%s\"; known: error-report, fields\n", name.c_str());
+    std::printf("no dialog \"%s\"; known: error-report, fields, about\n", name.c_str());
     return 2;
   }
   it->second();

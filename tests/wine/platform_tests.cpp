@@ -5,6 +5,7 @@
 
 #include <olectl.h>
 
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <sstream>
@@ -15,7 +16,7 @@
 #include "platform/win32/dispatch_object.h"
 #include "platform/win32/registry_win32.h"
 #include "platform/win32/resources_win32.h"
-#include "support/about_key_value.h"
+#include "support/about_form.h"
 
 namespace qvx::winetest {
 namespace {
@@ -23,11 +24,30 @@ namespace {
 using platform::kLanguageEnglishUs;
 
 // The sample documents are compiled into this test program (tests/wine/CMakeLists.txt).
-std::string SampleFile() {
-  std::ifstream in(QVX_TEST_RESOURCES_DIR "/sample/LINES_(CRLF).xml", std::ios::binary);
+std::string FileText(const std::filesystem::path& path) {
+  std::ifstream in(path, std::ios::binary);
   std::ostringstream out;
   out << in.rdbuf();
   return out.str();
+}
+
+std::string SampleFile() {
+  return FileText(QVX_TEST_RESOURCES_DIR "/sample/LINES_(CRLF).xml");
+}
+
+// The bytes of a resource as the system's own look-up finds them.
+std::optional<std::string> FoundInModule(HMODULE module, const std::wstring& type,
+                                         const std::wstring& name, WORD language) {
+  const HRSRC found = FindResourceExW(module, type.c_str(), name.c_str(), language);
+  const HGLOBAL loaded = found != nullptr ? LoadResource(module, found) : nullptr;
+  const void* bytes = loaded != nullptr ? LockResource(loaded) : nullptr;
+  if (bytes == nullptr) return std::nullopt;
+  return std::string(static_cast<const char*>(bytes), SizeofResource(module, found));
+}
+
+BOOL CALLBACK CountName(HMODULE, LPCWSTR, LPWSTR, LONG_PTR count) {
+  ++*reinterpret_cast<int*>(count);
+  return TRUE;
 }
 
 int32_t RaisedNumber(const std::function<void()>& call) {
@@ -62,6 +82,33 @@ WINE_TEST(Resources, ATextResourceIsFoundByTypeNameAndLanguage) {
   CHECK(!resources.FindData("VIEWS_TASK", "LINES_(CRLF)", kLanguageEnglishUs));
   CHECK(!resources.FindData("QVX_SAMPLE", "LINES", kLanguageEnglishUs));
   CHECK_EQ(RaisedNumber([&] { platform::LoadResData(resources, "QVX_SAMPLE", "LINES"); }), 326);
+}
+
+// Every view document is in the DLL under its type, its upper-cased file
+// name (parentheses and all) and language 1033, byte for byte.
+WINE_TEST(Resources, TheDllHoldsEveryViewDocument) {
+  const HMODULE dll = GetModuleHandleW(Dll().path.c_str());
+  REQUIRE(dll != nullptr);
+  for (const auto& [folder, type] :
+       {std::pair{"appointment", L"VIEWS_APPOINTMENT"}, std::pair{"task", L"VIEWS_TASK"}}) {
+    int files = 0;
+    for (const auto& entry :
+         std::filesystem::directory_iterator(std::string(QVX_VIEW_DOCUMENTS_DIR "/") + folder)) {
+      if (entry.path().extension() != ".xml") continue;
+      std::wstring name = entry.path().stem().wstring();
+      for (wchar_t& c : name) c = towupper(c);
+      Note(std::string(folder) + "/" + entry.path().filename().string());
+      CHECK_EQ(FoundInModule(dll, type, name, kLanguageEnglishUs),
+               std::optional<std::string>(FileText(entry.path())));
+      ++files;
+    }
+    CHECK_EQ(files, 14);
+    int names = 0;
+    EnumResourceNamesW(dll, type, CountName, reinterpret_cast<LONG_PTR>(&names));
+    CHECK_EQ(names, 14);
+  }
+  CHECK(FoundInModule(dll, L"VIEWS_TASK", L"REPORTED_DATE_(FILTERED)", kLanguageEnglishUs));
+  CHECK(!FoundInModule(dll, L"VIEWS_TASK", L"REPORTED_DATE_(FILTERED)", 1031));
 }
 
 WINE_TEST(Resources, TheDllsPicturesComeAsIPictureDisp) {

@@ -131,4 +131,22 @@ WINE_TEST(RibbonDispatch, AnUntrappedFailureAnswersWithItsException) {
   CHECK(Watcher().Take().empty());
 }
 
+// The backstage's About task opens the about box as a real window, with the
+// build, the tool's name and the picture from the DLL's resources.
+WINE_TEST(RibbonDispatch, TheAboutTaskOpensTheAboutBox) {
+  WriteSettings({{L"DBChoice", L"1"}});
+  AddinSession session;
+  session.Start();
+  CHECK_EQ(session.ClickRibbon("cmdAbout"), S_OK);
+  const std::vector<SeenDialog> seen = Watcher().Take();
+  REQUIRE_EQ(seen.size(), size_t{1});
+  CHECK(seen[0].caption == L"About");
+  CHECK(!seen[0].messageBox);
+  CHECK(seen[0].Shows(L"Quorvix for Outlook"));
+  CHECK(seen[0].Shows(L"Build 1."));
+  CHECK(seen[0].Shows(L"Client Tool"));
+  CHECK_EQ(seen[0].pictures, 1);
+  DeleteTree(kSettingsKey);
+}
+
 }  // namespace qvx::winetest

@@ -59,8 +59,6 @@ TEST_F(Sinks, InspectorsGetBarsOnlyForTheItemsTheAddinWorksOn) {
   };
   const Row rows[] = {
       {"IPM.Note", "-1", "-1", false},
-      {"IPM.StickyNote", "-1", "-1", false},
-      {"IPM.Contact", "-1", "-1", false},
       {"IPM.Task", "-1", "0", true},
       {"IPM.Task", "0", "-1", false},
       {"IPM.TaskRequest", "-1", "0", true},
@@ -68,7 +66,6 @@ TEST_F(Sinks, InspectorsGetBarsOnlyForTheItemsTheAddinWorksOn) {
       {"IPM.Appointment", "-1", "0", false},
       {"IPM.OLE.CLASS.{00061055-0000-0000-C000-000000000046}", "0", "-1", true},
       {"IPM.OLE.CLASS.{00061055-0000-0000-C000-000000000046}", "-1", "0", false},
-      {"ipm.appointment.custom", "0", "-1", true},
   };
   for (const Row& row : rows) {
     scenario::World fresh;
@@ -88,24 +85,6 @@ TEST_F(Sinks, InspectorsGetBarsOnlyForTheItemsTheAddinWorksOn) {
   }
 }
 
-TEST_F(Sinks, AnItemOutsideTheDefaultFolderGetsNoBarOnlyWhenRestricted) {
-  auto other = host().AddFolder(host().Root(), "Other", 1);
-  auto elsewhere =
-      host().AddAppointment("Elsewhere", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2), other);
-  Set("AllowAppointmentItems", "-1");
-  Set("UseDefaultCalendarFolderOnly", "0");
-  Start();
-  host().OpenInspector(elsewhere);
-  EXPECT_EQ(StandardKeys(), std::vector<std::string>{elsewhere->EntryId()});
-  settings().UseDefaultCalendarFolderOnly = -1;
-  inspectors().colInspectorsTB->Clear();
-  host().OpenInspector(elsewhere);
-  host().OpenInspector(
-      host().AddAppointment("Home", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2)));
-  ASSERT_EQ(StandardKeys().size(), 1u);
-  EXPECT_NE(StandardKeys()[0], elsewhere->EntryId());
-}
-
 TEST_F(Sinks, AnInspectorWhoseItemCannotBeReadStillOpensAndIsReported) {
   Set("AllowAppointmentItems", "-1");
   Start();
@@ -119,18 +98,7 @@ TEST_F(Sinks, AnInspectorWhoseItemCannotBeReadStillOpensAndIsReported) {
   EXPECT_TRUE(StandardKeys().empty()) << "no bar is entered without its key";
 }
 
-TEST_F(Sinks, ClosingTheLastExplorerTearsDownFromInsideItsOwnClient) {
-  Start();
-  ASSERT_EQ(s().main.colExplorerClients->Count(), 1u);
-  std::weak_ptr<cExplorerClient> client = s().main.colExplorerClients->Entries()[0].value;
-  ASSERT_TRUE(ListenerExists());
-  host().Close(*host().ActiveExplorer());
-  EXPECT_EQ(s().main.phase, AddinPhase::TornDown);
-  EXPECT_FALSE(ListenerExists());
-  EXPECT_TRUE(client.expired()) << "the client went after its handler returned";
-  EXPECT_TRUE(world.ui().Forms().empty());
-}
-
+// Closing the last explorer from inside its own client: explorer_last_close.qvx.
 TEST_F(Sinks, TheHostsQuitTearsDownOnceWhateverIsStillOpen) {
   Start();
   host().OpenExplorer(host().Calendar());

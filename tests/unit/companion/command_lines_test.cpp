@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "companion/section_codes.h"
 #include "core/dates.h"
 
 namespace qvx::companion {
@@ -36,14 +35,6 @@ TEST(CompanionCommandLines, StatisticsReplacesEveryBlank) {
        "Server=db1;Initial_SPACE_Catalog=Time_SPACE_Sheets|0|"},
   };
   for (const auto& [built, expected] : rows) EXPECT_EQ(built, expected);
-}
-
-TEST(CompanionSections, AreExactlyTheNineNumbers) {
-  for (int64_t n = -1; n <= 40; ++n) {
-    const bool known = n == 6 || n == 14 || n == 15 || n == 17 || n == 19 || n == 21 || n == 26 ||
-                       n == 27 || n == 28;
-    EXPECT_EQ(IsKnownSection(n), known) << n;
-  }
 }
 
 }  // namespace

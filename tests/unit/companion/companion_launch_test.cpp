@@ -6,7 +6,6 @@
 
 #include "companion/section_codes.h"
 #include "platform/user_interface.h"
-#include "support/endpoints.h"
 #include "unit/reporting/test_addin.h"
 
 namespace qvx {
@@ -69,16 +68,6 @@ TEST_F(LaunchTest, WithoutSettingsTheStatisticsReportAndStartNothing) {
   subLoadOLAPStatistics(t.s);
   EXPECT_TRUE(Launches().empty());
   EXPECT_TRUE(t.Reported("Main.subLoadOLAPStatistics"));
-}
-
-TEST_F(LaunchTest, TheTutorialIsALinkOnTheProductSite) {
-  GotoVideoTutorial(t.s);
-  // A link goes to the shell object whole, with no program path and no argument.
-  ASSERT_EQ(Launches().size(), 1u);
-  EXPECT_EQ(Launches()[0].path, ProductWebPage("/Quorvix/TutorialClips.asp"));
-  EXPECT_TRUE(EndsWith(Launches()[0].path, "/Quorvix/TutorialClips.asp"));
-  EXPECT_EQ(Launches()[0].argument, "");
-  EXPECT_TRUE(t.ui.MessageBoxes().empty());
 }
 
 }  // namespace

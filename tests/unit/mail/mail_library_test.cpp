@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include "core/dates.h"
+#include "core/host_constants.h"
+#include "sim/appointment.h"
 #include "sim/mail_library_standin.h"
-#include "unit/mail/mail_test_item.h"
+#include "sim/outlook.h"
+#include "sim/user_properties.h"
 #include "unit/reporting/test_addin.h"
 
 namespace qvx {
@@ -16,10 +19,17 @@ using sim::MailLibraryStandIn;
 // The scenarios cover the library's start-up, shutdown and the refusal's box text.
 struct MailLibraryTest : ::testing::Test {
   void SetUp() override {
-    item.Set("ReportedID", "1042").Set("Field9Value", "125").Set("ReportedDate", reportedOn);
+    Set("ReportedID", Variant("1042"));
+    Set("Field9Value", Variant("125"));
+    Set("ReportedDate", Variant(reportedOn));
   }
+  // A combination property: the host keeps the value as given.
+  void Set(std::string_view name, Variant value) {
+    item->UserProperties().Set(name, host::olCombination, std::move(value));
+  }
+  int Displays() const { return item->CallCount("Display"); }
   Variant Read(std::string_view field, VarType type) {
-    return GetFieldValueFromItem(t.s, item.AsObject(), field, type);
+    return GetFieldValueFromItem(t.s, item->AsObject(), field, type);
   }
   // Installs the library after `set` has shaped its options.
   MailLibraryStandIn& Install(void (*set)(MailLibraryOptions&) = [](MailLibraryOptions&) {}) {
@@ -31,7 +41,9 @@ struct MailLibraryTest : ::testing::Test {
   }
 
   testing::TestAddin t;
-  testing::MailTestItem item;
+  sim::Outlook host;
+  std::shared_ptr<sim::SimAppointment> item =
+      host.AddAppointment("Report", DateSerial(2026, 3, 14), DateSerial(2026, 3, 14));
   DateValue reportedOn = ComposeDate({2026, 3, 14, 15, 9, 26});
   std::unique_ptr<MailLibraryStandIn> library;
 };
@@ -43,8 +55,8 @@ TEST_F(MailLibraryTest, WithoutTheLibraryReadsGoThroughTheHostAndNothingIsSent) 
   // The quirk kept: "ready" with no object held, so the library's calls fail unseen.
   EXPECT_TRUE(InitMapiUtils(t.s));
   EXPECT_TRUE(t.s.support.mapiUtils.IsNothing());
-  EXPECT_FALSE(SendEmailDirectly(t.s, item.AsObject()));
-  EXPECT_EQ(item.displays, 0);
+  EXPECT_FALSE(SendEmailDirectly(t.s, item->AsObject()));
+  EXPECT_EQ(Displays(), 0);
   EXPECT_TRUE(t.ui.MessageBoxes().empty());
   EXPECT_TRUE(t.Reports().empty());
   EXPECT_FALSE(t.s.err.pending());
@@ -56,9 +68,9 @@ TEST_F(MailLibraryTest, ARefusedKeyIsToldOnceAndTheHostTakesOver) {
   EXPECT_EQ(Read("Field9Value", VarType::Integer), Variant("125"));
   EXPECT_FALSE(InitMapiUtils(t.s));
   // A mail is shown instead of sent, each time.
-  EXPECT_FALSE(SendEmailDirectly(t.s, item.AsObject()));
-  EXPECT_FALSE(SendEmailDirectly(t.s, item.AsObject()));
-  EXPECT_EQ(item.displays, 2);
+  EXPECT_FALSE(SendEmailDirectly(t.s, item->AsObject()));
+  EXPECT_FALSE(SendEmailDirectly(t.s, item->AsObject()));
+  EXPECT_EQ(Displays(), 2);
   EXPECT_TRUE(lib.record().sent.empty());
   EXPECT_EQ(lib.record().getOneProp, 0);
   EXPECT_EQ(lib.record().utilsCreated, 1);
@@ -81,17 +93,17 @@ TEST_F(MailLibraryTest, WithTheLibraryValuesComeFromTheStoreAndMailIsSent) {
   EXPECT_NEAR(utc.As<DateValue>()->serial, reportedOn.serial - 2.0 / 24.0, 1e-9);
   EXPECT_EQ(lib.record().gmtToLocal, 1);
 
-  EXPECT_TRUE(SendEmailDirectly(t.s, item.AsObject()));
+  EXPECT_TRUE(SendEmailDirectly(t.s, item->AsObject()));
   ASSERT_EQ(lib.record().sent.size(), 1u);
-  EXPECT_TRUE(lib.record().sent[0].Is(item.AsObject()));
+  EXPECT_TRUE(lib.record().sent[0].Is(item->AsObject()));
   EXPECT_EQ(lib.record().deliverNow, 1);
-  EXPECT_EQ(item.displays, 0);
+  EXPECT_EQ(Displays(), 0);
   EXPECT_TRUE(t.ui.MessageBoxes().empty());
 }
 
 TEST_F(MailLibraryTest, NullValuesByType) {
   MailLibraryStandIn& lib = Install();
-  item.Set("Field1Value", Variant::Null());
+  Set("Field1Value", Variant::Null());
   const std::pair<VarType, Variant> rows[] = {
       {VarType::Integer, Variant(int16_t{0})},
       {VarType::String, Variant("")},

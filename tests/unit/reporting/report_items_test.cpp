@@ -93,14 +93,7 @@ TEST_F(ReportItems, AnItemOfAnotherClassEndsTheValidation) {
   EXPECT_TRUE(t.Reported("Main.ReportToDB"));  // IsRecurring, of the second item
 }
 
-TEST_F(ReportItems, AnOnlyItemThatHasGoneEndsIt) {
-  auto gone = Appointment("A");
-  Select({gone});
-  gone->Delete();
-  ReportItemsToDB(t.s);
-  EXPECT_TRUE(Launches().empty());
-  EXPECT_TRUE(t.Reported("Main.ReportToDB"));
-}
+// An item that has gone ends the validation: report_refused_item.qvx.
 
 }  // namespace
 }  // namespace qvx

@@ -48,27 +48,7 @@ TEST_F(TagSelectionTest, OneSelectedItemIsTaggedOnlyIfItIsTheNotedOne) {
   EXPECT_EQ(item->saveCount(), saves + 1);
 }
 
-TEST_F(TagSelectionTest, EachOfSeveralIsTaggedAndSavedWithMessagesLetThroughBeforeEach) {
-  Connect();
-  auto a = Appointment("A");
-  auto b = Appointment("B");
-  auto c = Task("C");
-  Select({a, b, c});
-  const int savedBefore = a->saveCount();
-  std::string seenBeforeFirst;
-  host().Pending().Post([&] { seenBeforeFirst = Prop(*a, "ProjectValue"); });
-  EXPECT_TRUE(Tag("Alpha", "the id plays no part"));
-  EXPECT_EQ(seenBeforeFirst, "(none)");
-  // Once before each item: three turns of the pump for three items.
-  const size_t pumps = host().Pending().pumps();
-  EXPECT_TRUE(Tag("Alpha", ""));
-  EXPECT_EQ(host().Pending().pumps() - pumps, 3u);
-  for (const auto& item : std::vector<std::shared_ptr<sim::SimItem>>{a, b, c}) {
-    EXPECT_EQ(Prop(*item, "ProjectValue"), "Alpha") << item->Subject();
-    EXPECT_EQ(item->saveCount(), savedBefore + 2) << item->Subject();
-  }
-}
-
+// Several items, with messages let through before each: tagging_selection_guard.qvx.
 TEST_F(TagSelectionTest, AnItemThatRefusesItsValueIsReportedAndTheOthersAreTagged) {
   Connect();
   auto a = Appointment("A");

@@ -6,8 +6,6 @@
 #include <random>
 
 #include "core/text.h"
-
-#include "reporting/key_filter.h"
 #include "unit/reporting/test_addin.h"
 
 namespace qvx {
@@ -62,15 +60,6 @@ TEST(ValueCodecs, AValueWithoutTextFormGivesEmptyAndIsReported) {
   testing::TestAddin u;
   EXPECT_EQ(DecodeValue(u.s, Variant::Null()), "");
   EXPECT_TRUE(u.Reported("Global.DecodeValue"));
-}
-
-TEST(KeepDigitsOnly, PassesDigitsAndBackspaceOnly) {
-  for (int code = -1; code <= 255; ++code) {
-    int16_t key = static_cast<int16_t>(code);
-    KeepDigitsOnly(key);
-    const bool kept = (code >= '0' && code <= '9') || code == 8;
-    EXPECT_EQ(key, kept ? code : 0) << code;
-  }
 }
 
 }  // namespace

@@ -3,6 +3,12 @@
 #include <functional>
 
 #include "apps/qvx-sim/world.h"
+#include "core/host_constants.h"
+#include "sim/fake_object.h"
+#include "sim/folder.h"
+#include "sim/views.h"
+#include "views/view_names.h"
+#include "views/view_provisioning.h"
 
 namespace qvx::testing {
 namespace {
@@ -22,6 +28,17 @@ void AllCustomFieldsActive(World& w) {
   }
   w.registry().SetString(scenario::kSettingsKey, "CustomFieldsTitle", "Billing");
   w.registry().SetString(scenario::kSettingsKey, "CustomField1List", "North\r\nSouth");
+}
+
+// GetContentXML's answer for a views menu of that id, as the host asks it.
+std::string MenuContent(World& world, std::string_view id) {
+  auto control = std::make_shared<sim::FakeObject>("IRibbonControl");
+  control->ReadOnly("Id", Variant(id)).ReadOnly("Context", Variant()).ReadOnly("Tag", Variant(""));
+  std::vector<Variant> args{control->AsVariant()};
+  Variant result;
+  std::optional<Failure> failure;
+  world.addin().InvokeCallback("GetContentXML", args, result, failure);
+  return result.ToText();
 }
 
 }  // namespace
@@ -54,6 +71,25 @@ std::vector<RibbonDocument> EveryRibbonDocument() {
             {std::string(c.name) + "-" + major + "-" + id, id, world.addin().GetCustomUI(id)});
       }
     }
+  }
+  return documents;
+}
+
+std::vector<RibbonDocument> EveryViewsMenuDocument() {
+  World world;
+  world.registry().SetString(scenario::kSettingsKey, "ProjectTitle", "Client");
+  world.addin().OnConnection(world.host().Application(), 1, Object());
+  world.addin().OnStartupComplete();
+  auto calendar = world.host().Calendar();
+  world.host().OpenExplorer(calendar);
+  calendar->views().Add("My week", host::olCalendarView, 0);
+  AddinState& s = world.addin().state();
+  LoadView(s, calendar->AsObject(), "Client", GetViewResName(s, "Client"));
+  std::vector<RibbonDocument> documents;
+  for (const char* id :
+       {"dnViewsCal", "dnViewsCalTable", "dnViewsTask", "dnViewsAppointment",
+        "dnViewsRecurringAppointment", "dnViewsTaskList", "dnViewsTaskDaily", "cboProjectCal"}) {
+    documents.push_back({std::string("views-menu-") + id, id, MenuContent(world, id)});
   }
   return documents;
 }

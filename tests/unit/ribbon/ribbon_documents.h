@@ -1,6 +1,7 @@
 // Every customUI document the add-in can give a host: each ribbon id it
 // answers, with no settings, with default settings and with all custom
-// fields active, on hosts of major version 12, 14 and 16.
+// fields active, on hosts of major version 12, 14 and 16; and the content of
+// the views menus, whose root is `menu`.
 //
 //   for (const RibbonDocument& d : EveryRibbonDocument()) Validate(d.markup);
 #pragma once
@@ -20,5 +21,10 @@ struct RibbonDocument {
 const std::vector<std::string>& AnsweredRibbonIds();
 
 std::vector<RibbonDocument> EveryRibbonDocument();
+
+// GetContentXML for each views menu and for a control that is none, on a
+// calendar holding a view of the user's and one the add-in provisioned;
+// `ribbonId` holds the control's id.
+std::vector<RibbonDocument> EveryViewsMenuDocument();
 
 }  // namespace qvx::testing

@@ -34,7 +34,7 @@ TEST(RibbonExecuteAction, CompanionSectionsByControlId) {
   }
 }
 
-TEST(RibbonExecuteAction, WebPagesHelpAndUnknownIds) {
+TEST(RibbonExecuteAction, WebPagesHelpAboutAndUnknownIds) {
   World world;
   ConnectAddin(world);
   CallbackAnswer(world, "SubExecuteAction", MakeControl("cmdVideoTutorials"));
@@ -54,6 +54,11 @@ TEST(RibbonExecuteAction, WebPagesHelpAndUnknownIds) {
   EXPECT_EQ(world.ui().MessageBoxes()[0].text, "not implemented - cmdReportMail");
   EXPECT_EQ(world.ui().MessageBoxes()[2].text, "not implemented - cmdContextReportCalTable");
   EXPECT_EQ(world.system().Launches().size(), 2u);
+  // The about box, shown modally.
+  CallbackAnswer(world, "SubExecuteAction", MakeControl("cmdAbout"));
+  ASSERT_EQ(world.ui().Forms().size(), 1u);
+  EXPECT_EQ(world.ui().Forms()[0].caption, "About");
+  EXPECT_EQ(world.ui().MessageBoxes().size(), 3u);
   EXPECT_TRUE(ErrorReports(world).empty());
 }
 

@@ -325,23 +325,58 @@ void CollectCallbacks(const sim::MarkupElement& e, std::set<std::string>& names)
   for (const sim::MarkupElement& child : e.children) CollectCallbacks(child, names);
 }
 
-// Every name the documents bind is a callback of the add-in's, but the views
-// menu's getContent, which the views menu brings with it.
+// Every name the documents and the views menus bind is a callback of the
+// add-in's.
 TEST(RibbonDocuments, EveryBoundCallbackIsInTheTable) {
   std::set<std::string> missing;
   size_t bound = 0;
-  for (const RibbonDocument& d : EveryRibbonDocument()) {
-    const auto tree = sim::ParseRibbonMarkup(d.markup, "customUI");
-    if (!tree) continue;
-    std::set<std::string> names;
-    CollectCallbacks(*tree, names);
-    bound += names.size();
-    for (const std::string& name : names) {
-      if (!FindRibbonCallback(name)) missing.insert(name);
+  const auto collect = [&](const std::vector<RibbonDocument>& documents, std::string_view root) {
+    for (const RibbonDocument& d : documents) {
+      const auto tree = sim::ParseRibbonMarkup(d.markup, root);
+      if (!tree) continue;
+      std::set<std::string> names;
+      CollectCallbacks(*tree, names);
+      bound += names.size();
+      for (const std::string& name : names) {
+        if (!FindRibbonCallback(name)) missing.insert(name);
+      }
     }
-  }
+  };
+  collect(EveryRibbonDocument(), "customUI");
+  collect(EveryViewsMenuDocument(), "menu");
   EXPECT_GT(bound, 0u);
-  EXPECT_EQ(missing, std::set<std::string>{"GetContentXML"});
+  EXPECT_EQ(missing, std::set<std::string>{});
+}
+
+// Each of the seven views menus lists the thirteen prepared views under the
+// titles of now, a line, then the folder's other views; any other control
+// gets an empty menu.
+TEST(RibbonDocuments, ViewsMenusListPreparedThenTheFoldersOwnViews) {
+  std::vector<std::string> expected;
+  for (const char* label :
+       {"Reported ID", "Reported State", "Client and Activity", "Client", "Activity", "Due Date",
+        "Items without Client (Filtered)", "Items without Activity (Filtered)",
+        "Items without Client and Activity (Filtered)", "Reported Items (Filtered)",
+        "Unreported Items (Filtered)", "Calendar view of Reported Items (Filtered)",
+        "Calendar view of Unreported Items (Filtered)"}) {
+    expected.push_back("cmdDefinedView" + std::to_string(expected.size() + 1) + "=" + label);
+  }
+  expected.push_back("cmdDefinedViewsSep=");
+  expected.push_back("cmdView1=Calendar");
+  expected.push_back("cmdView2=My week");
+  for (const RibbonDocument& d : EveryViewsMenuDocument()) {
+    SCOPED_TRACE(d.name);
+    const auto menu = sim::ParseRibbonMarkup(d.markup, "menu");
+    ASSERT_TRUE(menu.has_value());
+    std::vector<std::string> entries;
+    for (const sim::MarkupElement& e : menu->children) {
+      const std::string* label = e.Attribute("label");
+      const std::string* tag = e.Attribute("tag");
+      EXPECT_EQ(tag ? *tag : "", label ? *label : "");
+      entries.push_back(e.Key() + "=" + (label ? *label : ""));
+    }
+    EXPECT_EQ(entries, d.ribbonId.starts_with("dnViews") ? expected : std::vector<std::string>{});
+  }
 }
 
 }  // namespace

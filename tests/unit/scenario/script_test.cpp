@@ -26,20 +26,13 @@ TEST(ScenarioScript, SplitsWordsQuotesAndComments) {
 TEST(ScenarioScript, HexEscapesGiveAnyByteAndBackslashesStayOutsideQuotes) {
   std::vector<std::string> words;
   std::string error;
-  ASSERT_TRUE(SplitWords("set \"a\\x00\\xFFb\\x7e\" C:\\Data\\x.mdb", words, error)) << error;
-  ASSERT_EQ(words.size(), 3u);
+  ASSERT_TRUE(SplitWords("set \"a\\x00\\xFFb\\x7e\" C:\\Data\\x.mdb \"\"", words, error)) << error;
+  ASSERT_EQ(words.size(), 4u);
+  EXPECT_EQ(words[3], "");  // an empty quoted word counts
   EXPECT_EQ(words[1], std::string("a\0\xFF"
                                   "b~",
                                   5));
   EXPECT_EQ(words[2], "C:\\Data\\x.mdb");
-}
-
-TEST(ScenarioScript, EmptyQuotedWordsCount) {
-  std::vector<std::string> words;
-  std::string error;
-  ASSERT_TRUE(SplitWords("registry set DBConnectionString \"\"", words, error));
-  ASSERT_EQ(words.size(), 4u);
-  EXPECT_EQ(words[3], "");
 }
 
 TEST(ScenarioScript, MalformedLinesNameTheirLine) {

@@ -82,6 +82,17 @@ TEST(ListOrder, SortMatchesTheExchangeSortOnBothColumns) {
   }
 }
 
+TEST(ListOrder, ItemsKeepTheirKeysAndOnlyTwoColumnsAreKnown) {
+  OrderedDictionary<std::string> d;
+  for (const char* k : {"9", "beta", "10", "Alpha", "_x", "alpha2"}) d.Add(k, std::string(k) + "!");
+  const auto sorted = Scripting::Sort(d);
+  EXPECT_EQ(*sorted.Find("Alpha"), "Alpha!");
+  OrderedDictionary<std::string> one;
+  one.Add("x", "item");
+  EXPECT_EQ(Scripting::Sort(one, 7).Count(), 1u);  // not even the column is looked at
+  EXPECT_THROW(Scripting::Sort(d, 3), Failure);
+}
+
 TEST(ListOrder, TiesAreNotKeptInTheirInputOrder) {
   // b1 b2 a: the first pass puts a first and b1 where a was.
   EXPECT_EQ(Scripting::ExchangeSortOrder({"b", "b", "a"}), (std::vector<size_t>{2, 1, 0}));

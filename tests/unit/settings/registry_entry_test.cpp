@@ -17,42 +17,30 @@ using testing::kQvxKey;
 using testing::SettingsFixture;
 
 // The file registry, with any call told to answer a given result instead.
-class FaultyRegistry final : public platform::RegistryApi {
+class FaultyRegistry final : public testing::ForwardingRegistry {
  public:
-  explicit FaultyRegistry(platform::RegistryApi& inner) : inner_(inner) {}
+  using ForwardingRegistry::ForwardingRegistry;
   std::optional<long> create, set, open, query;
   bool raiseOnQuery = false;
   int closes = 0;
 
   long CreateKey(platform::Hive h, std::u16string_view k, Key& key) override {
-    return create ? *create : inner_.CreateKey(h, k, key);
+    return create ? *create : ForwardingRegistry::CreateKey(h, k, key);
   }
   long SetStringValue(Key key, std::u16string_view n, std::u16string_view d) override {
-    return set ? *set : inner_.SetStringValue(key, n, d);
+    return set ? *set : ForwardingRegistry::SetStringValue(key, n, d);
   }
   long OpenKey(platform::Hive h, std::u16string_view k, uint32_t a, Key& key) override {
-    return open ? *open : inner_.OpenKey(h, k, a, key);
-  }
-  long OpenKeyA(platform::Hive h, std::string_view k, uint32_t a, Key& key) override {
-    return inner_.OpenKeyA(h, k, a, key);
-  }
-  long QueryValueInfoA(Key key, std::string_view n, uint32_t& t, uint32_t& size) override {
-    return inner_.QueryValueInfoA(key, n, t, size);
-  }
-  long QueryValueA(Key key, std::string_view n, uint32_t& t, std::string& b) override {
-    return inner_.QueryValueA(key, n, t, b);
+    return open ? *open : ForwardingRegistry::OpenKey(h, k, a, key);
   }
   long QueryValueW(Key key, std::u16string_view n, std::u16string& b) override {
     if (raiseOnQuery) throw Failure::Runtime(err::kOutOfMemory);
-    return query ? *query : inner_.QueryValueW(key, n, b);
+    return query ? *query : ForwardingRegistry::QueryValueW(key, n, b);
   }
   long CloseKey(Key key) override {
     ++closes;
-    return inner_.CloseKey(key);
+    return ForwardingRegistry::CloseKey(key);
   }
-
- private:
-  platform::RegistryApi& inner_;
 };
 
 Failure Raised(const std::function<void()>& call) {

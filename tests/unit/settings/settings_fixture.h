@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "platform/registry_api.h"
+
 #include "sim/temp_folder.h"
 #include "sim/test_addin.h"
 
@@ -17,6 +19,38 @@ struct SettingsFixture : sim::TestAddin {
   // `registryOverride`: a registry of the test's own in place of the file.
   explicit SettingsFixture(platform::RegistryApi* registryOverride = nullptr)
       : sim::TestAddin({.registry = registryOverride}) {}
+};
+
+// A registry that hands every call on to `inner`; a test overrides the calls
+// it watches or makes fail.
+class ForwardingRegistry : public platform::RegistryApi {
+ public:
+  explicit ForwardingRegistry(platform::RegistryApi& inner) : inner_(inner) {}
+  long SetStringValue(Key key, std::u16string_view n, std::u16string_view d) override {
+    return inner_.SetStringValue(key, n, d);
+  }
+  long QueryValueInfoA(Key key, std::string_view n, uint32_t& t, uint32_t& size) override {
+    return inner_.QueryValueInfoA(key, n, t, size);
+  }
+  long QueryValueA(Key key, std::string_view n, uint32_t& t, std::string& b) override {
+    return inner_.QueryValueA(key, n, t, b);
+  }
+  long QueryValueW(Key key, std::u16string_view n, std::u16string& b) override {
+    return inner_.QueryValueW(key, n, b);
+  }
+  long CreateKey(platform::Hive h, std::u16string_view k, Key& key) override {
+    return inner_.CreateKey(h, k, key);
+  }
+  long OpenKey(platform::Hive h, std::u16string_view k, uint32_t a, Key& key) override {
+    return inner_.OpenKey(h, k, a, key);
+  }
+  long OpenKeyA(platform::Hive h, std::string_view k, uint32_t a, Key& key) override {
+    return inner_.OpenKeyA(h, k, a, key);
+  }
+  long CloseKey(Key key) override { return inner_.CloseKey(key); }
+
+ private:
+  platform::RegistryApi& inner_;
 };
 
 // The first line of a report, "At Line: 20", and its label line.

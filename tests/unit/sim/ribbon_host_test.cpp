@@ -1,5 +1,7 @@
 // The simulated ribbon host: what it asks the add-in, when, with which
-// arguments, and what it shows from the answers.
+// arguments, and what it shows from the answers. What a script sees of it
+// (malformed markup, names in any case, rows, choices, contextual tabs and
+// context menus) is in tests/scenarios/ribbon_host.qvx.
 #include "sim/ribbon/ribbon_host.h"
 
 #include <gtest/gtest.h>
@@ -72,34 +74,6 @@ TEST_F(RibbonHostTest, MarkupIsAskedOncePerRibbonIdAndLoadedThroughOnLoad) {
   EXPECT_TRUE(ribbonUi.Is(host.RibbonUi(kExplorer)));
   // No markup for the task ribbon: nothing loads, nothing shows.
   EXPECT_TRUE(host.RibbonUi("Microsoft.Outlook.Task").IsNothing());
-}
-
-TEST_F(RibbonHostTest, MalformedMarkupShowsNothingAndCallsNothing) {
-  addin.Define("GetLabel", [](Args&) { return Variant("never"); });
-  RibbonWindow& window = Open(Document("<button id=\"b1\" getLabel=\"GetLabel\">"));
-  EXPECT_FALSE(window.HasMarkup());
-  EXPECT_TRUE(window.Ribbon().children.empty());
-  EXPECT_TRUE(ribbonUi.IsNothing());  // no onLoad
-  EXPECT_EQ(window.Click("b1"), UserActionResult::NotShown);
-  EXPECT_FALSE(window.OpenContextMenu("ContextMenuCalendarItem", Object()));
-  window.OpenBackstage();
-  EXPECT_TRUE(window.Backstage().children.empty());
-  EXPECT_TRUE(addin.Calls().empty());
-  EXPECT_TRUE(host.Actions().empty());
-}
-
-// The host passes a name as the markup spells it; the add-in side finds it
-// without regard to case.
-TEST_F(RibbonHostTest, CallbacksAreBoundByNameWhateverTheCase) {
-  addin.Define("GetLabel", [](Args&) { return Variant("Publish"); });
-  addin.Define("subexecuteaction", [](Args&) { return Variant(); });
-  RibbonWindow& window =
-      Open(Document("<button id=\"b1\" getLabel=\"gEtLaBeL\" onAction=\"SubExecuteAction\"/>"));
-  EXPECT_EQ(window.Shown("b1")->label, "Publish");
-  EXPECT_EQ(window.Click("b1"), UserActionResult::Done);
-  EXPECT_EQ(TakeCalls(), (Calls{"gEtLaBeL b1", "SubExecuteAction b1"}));
-  ASSERT_EQ(host.Actions().size(), 1u);
-  EXPECT_EQ(host.Actions()[0].outcome, CallbackOutcome::Done);
 }
 
 TEST_F(RibbonHostTest, StaticAttributesStandWhereNoCallbackAnswers) {
@@ -207,32 +181,6 @@ TEST_F(RibbonHostTest, TheControlCarriesIdContextAndTag) {
   EXPECT_TRUE(seen.Get("Context").ToObject().Is(explorer->AsObject()));
 }
 
-TEST_F(RibbonHostTest, RowsComeFromTheItemCallbacks) {
-  const std::vector<std::string> labels{"Alpha", "Beta", ""};
-  addin.Define("Count", [](Args&) { return Variant(int16_t{3}); });
-  addin.Define("ItemLabel", [&](Args& a) { return Variant(labels.at(a.at(1).ToLong())); });
-  addin.Define("Selected", [](Args&) { return Variant(int16_t{2}); });
-  RibbonWindow& window = Open(
-      Document("<dropDown id=\"cboProjectCal\" getItemCount=\"Count\" getItemLabel=\"ItemLabel\" "
-               "getSelectedItemIndex=\"Selected\"/>"
-               "<dropDown id=\"fixed\"><item id=\"a\" label=\"One\"/><item id=\"b\" label=\"Two\"/>"
-               "</dropDown>"));
-  const ShownControl shown = *window.Shown("cboProjectCal");
-  ASSERT_EQ(shown.rows.size(), 3u);
-  EXPECT_EQ(shown.rows[0].label, "Alpha");
-  EXPECT_EQ(shown.rows[1].label, "Beta");
-  EXPECT_EQ(shown.rows[2].label, "");
-  EXPECT_EQ(shown.selectedIndex, 2);
-  EXPECT_EQ(TakeCalls(),
-            (Calls{"Count cboProjectCal", "ItemLabel cboProjectCal 0", "ItemLabel cboProjectCal 1",
-                   "ItemLabel cboProjectCal 2", "Selected cboProjectCal"}));
-  // Static rows, and a drop-down that shows its first row unless told.
-  const ShownControl fixed = *window.Shown("fixed");
-  ASSERT_EQ(fixed.rows.size(), 2u);
-  EXPECT_EQ(fixed.rows[1].id, "b");
-  EXPECT_EQ(fixed.selectedIndex, 0);
-}
-
 TEST_F(RibbonHostTest, ACountThatFailsOrIsOutOfBoundsShowsNoStrayRows) {
   addin.Define("Fails", [](Args&) -> Variant { throw Failure::Runtime(5); });
   addin.Define("Negative", [](Args&) { return Variant(-4); });
@@ -274,27 +222,6 @@ TEST_F(RibbonHostTest, InvalidationAsksAgainExactlyWhatWasInvalidated) {
   EXPECT_EQ(host.InvalidationCount(), 1);
 }
 
-// The host shows the user's choice at once; the add-in's answer counts again
-// after it invalidates the control.
-TEST_F(RibbonHostTest, AChoiceShowsUntilTheAddinIsAskedAgain) {
-  addin.Define("Pressed", [](Args&) { return Variant(false); });
-  addin.Define("Selected", [](Args&) { return Variant(0); });
-  addin.Define("Act", [](Args&) { return Variant(); });
-  RibbonWindow& window =
-      Open(Document("<toggleButton id=\"t1\" getPressed=\"Pressed\" onAction=\"Act\"/>"
-                    "<dropDown id=\"d1\" getSelectedItemIndex=\"Selected\" onAction=\"Act\">"
-                    "<item id=\"a\" label=\"A\"/><item id=\"b\" label=\"B\"/></dropDown>"));
-  ASSERT_EQ(window.Click("t1"), UserActionResult::Done);
-  ASSERT_EQ(window.Choose("d1", 1), UserActionResult::Done);
-  TakeCalls();
-  EXPECT_TRUE(window.Shown("t1")->pressed);
-  EXPECT_EQ(window.Shown("d1")->selectedIndex, 1);
-  EXPECT_TRUE(TakeCalls().empty());
-  ribbonUi.Call("Invalidate");
-  EXPECT_FALSE(window.Shown("t1")->pressed);
-  EXPECT_EQ(window.Shown("d1")->selectedIndex, 0);
-}
-
 TEST_F(RibbonHostTest, InvalidationReachesEveryWindowOfTheRibbonAndOutlivesNone) {
   addin.Define("Label", [](Args&) { return Variant("L"); });
   RibbonWindow& first = Open(Document("<button id=\"b1\" getLabel=\"Label\"/>"));
@@ -320,41 +247,6 @@ TEST_F(RibbonHostTest, InvalidationReachesEveryWindowOfTheRibbonAndOutlivesNone)
     }
     EXPECT_NO_THROW(gone.Call("Invalidate"));  // the host has gone: nothing to refresh
   }
-}
-
-TEST_F(RibbonHostTest, ContextualTabsShowOnlyWhileTheirTabSetIsShown) {
-  RibbonWindow& window = Open(
-      Document("<button id=\"b1\"/>",
-               "<contextualTabs><tabSet idMso=\"TabSetAppointment\"><tab idMso=\"TabAppointment\">"
-               "<group id=\"g2\"><button id=\"b2\"/></group></tab></tabSet></contextualTabs>"));
-  ASSERT_TRUE(window.HasMarkup()) << "markup of the test itself";
-  EXPECT_FALSE(window.Shown("b2").has_value());
-  window.ShowTabSet("TabSetAppointment", true);
-  EXPECT_TRUE(window.Shown("b2").has_value());
-  window.ShowTabSet("TabSetAppointment", false);
-  EXPECT_EQ(window.Click("b2"), UserActionResult::NotShown);
-}
-
-TEST_F(RibbonHostTest, ContextMenuEntriesShowForTheirMenuWithTheClickedObject) {
-  Object context;
-  addin.Define("Act", [&context](Args& a) {
-    context = a.at(0).ToObject().Get("Context").ToObject();
-    return Variant();
-  });
-  RibbonWindow& window = Open(
-      Document("", "",
-               "<contextMenus><contextMenu idMso=\"ContextMenuCalendarItem\">"
-               "<menuSeparator id=\"gap\"/><button id=\"cmdContextReportCal\" label=\"Publish\" "
-               "onAction=\"Act\"/></contextMenu></contextMenus>"));
-  EXPECT_EQ(window.Click("cmdContextReportCal"), UserActionResult::NotShown);
-  EXPECT_FALSE(window.OpenContextMenu("ContextMenuTaskItem", Object()));
-  auto selection = std::make_shared<FakeObject>("Selection");
-  ASSERT_TRUE(window.OpenContextMenu("ContextMenuCalendarItem", selection->AsObject()));
-  EXPECT_EQ(window.ContextMenu().children.size(), 2u);
-  EXPECT_EQ(window.Shown("cmdContextReportCal")->label, "Publish");
-  EXPECT_EQ(window.Click("cmdContextReportCal"), UserActionResult::Done);
-  EXPECT_TRUE(context.Is(selection->AsObject()));
-  EXPECT_TRUE(window.ContextMenu().children.empty()) << "a click closes the menu";
 }
 
 TEST_F(RibbonHostTest, BackstageAndDynamicMenusShowWhenOpened) {

@@ -1,6 +1,6 @@
 // The about box's registry read: a value of the machine hive, the key opened
 // with the about box's access and closed on every way out.
-#include "support/about_key_value.h"
+#include "support/about_form.h"
 
 #include <gtest/gtest.h>
 
@@ -13,48 +13,28 @@ namespace qvx {
 namespace {
 
 using platform::Hive;
-using platform::RegistryApi;
 using testing::TempFolder;
 
 constexpr const char* kMsinfo = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
 
 // The file registry, recording the access asked for; a query can be made to
 // raise, as a platform call may.
-class WatchedRegistry final : public RegistryApi {
+class WatchedRegistry final : public testing::ForwardingRegistry {
  public:
-  explicit WatchedRegistry(platform::FileRegistry& inner) : inner_(inner) {}
+  using ForwardingRegistry::ForwardingRegistry;
   std::optional<uint32_t> access;
   std::optional<Hive> hive;
   bool raiseOnQuery = false;
 
-  long CreateKey(Hive h, std::u16string_view k, Key& key) override {
-    return inner_.CreateKey(h, k, key);
-  }
-  long OpenKey(Hive h, std::u16string_view k, uint32_t a, Key& key) override {
-    return inner_.OpenKey(h, k, a, key);
-  }
   long OpenKeyA(Hive h, std::string_view k, uint32_t a, Key& key) override {
     hive = h;
     access = a;
-    return inner_.OpenKeyA(h, k, a, key);
-  }
-  long SetStringValue(Key key, std::u16string_view n, std::u16string_view d) override {
-    return inner_.SetStringValue(key, n, d);
-  }
-  long QueryValueInfoA(Key key, std::string_view n, uint32_t& t, uint32_t& size) override {
-    return inner_.QueryValueInfoA(key, n, t, size);
+    return ForwardingRegistry::OpenKeyA(h, k, a, key);
   }
   long QueryValueA(Key key, std::string_view n, uint32_t& t, std::string& b) override {
     if (raiseOnQuery) throw Failure::Runtime(err::kOutOfMemory);
-    return inner_.QueryValueA(key, n, t, b);
+    return ForwardingRegistry::QueryValueA(key, n, t, b);
   }
-  long QueryValueW(Key key, std::u16string_view n, std::u16string& b) override {
-    return inner_.QueryValueW(key, n, b);
-  }
-  long CloseKey(Key key) override { return inner_.CloseKey(key); }
-
- private:
-  platform::FileRegistry& inner_;
 };
 
 struct AboutKeyValue : ::testing::Test {

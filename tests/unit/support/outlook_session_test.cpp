@@ -96,17 +96,7 @@ TEST_F(SupportTest, ShowDefaultFolderLeavesAnOpenExplorerAlone) {
   EXPECT_TRUE(ui.MessageBoxes().empty());
 }
 
-TEST_F(SupportTest, ShowDefaultFolderOpensAndShowsAnExplorerWhenThereIsNone) {
-  host.StartsWithoutExplorer();
-  ConnectHost();
-  ShowDefaultFolder(s, host::olFolderCalendar);
-  ASSERT_EQ(host.Explorers().size(), 1u);
-  EXPECT_EQ(host.Explorers()[0]->folder(), host.Calendar());
-  EXPECT_EQ(host.Explorers()[0]->CallCount("Display"), 1);
-  EXPECT_FALSE(s.main.objNameSpace.IsNothing());
-  EXPECT_TRUE(ui.MessageBoxes().empty());
-}
-
+// With no explorer the default folder is opened and shown: startup_no_explorer.qvx.
 TEST_F(SupportTest, ShowDefaultFolderTellsTheLastFailureInABox) {
   host.StartsWithoutExplorer();
   host.FailAt("Session.GetDefaultFolder", sim::hresult::kFail, "No access.");

@@ -40,6 +40,27 @@ void AddinSession::Start() {
   REQUIRE_EQ(StartupComplete(), S_OK);
 }
 
+HRESULT AddinSession::ClickRibbon(const std::string& controlId) {
+  const ComPtr<IDispatch> dispatch = Dispatch();
+  std::wstring name = L"SubExecuteAction";
+  LPOLESTR names[] = {name.data()};
+  DISPID id = 0;
+  if (const HRESULT hr = dispatch->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
+      FAILED(hr)) {
+    return hr;
+  }
+  auto control = std::make_shared<sim::FakeObject>("IRibbonControl");
+  control->ReadOnly("Id", Variant(controlId));
+  const ComPtr<IDispatch> face = win32::MakeDispatchFace(control);
+  VARIANT argument{};
+  argument.vt = VT_DISPATCH;
+  argument.pdispVal = face.get();
+  DISPPARAMS params{&argument, nullptr, 1, 0};
+  UINT argError = 0;
+  return dispatch->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, nullptr,
+                          nullptr, &argError);
+}
+
 HRESULT AddinSession::BeginShutdown() {
   shutDown_ = true;
   return addin_->OnBeginShutdown(&custom_);

@@ -49,6 +49,9 @@ class AddinSession {
   void Start();
   HRESULT BeginShutdown();
   HRESULT Disconnect();
+  // The user clicks the ribbon button or backstage task `controlId`: Office
+  // calls SubExecuteAction by name with an IRibbonControl of that Id.
+  HRESULT ClickRibbon(const std::string& controlId);
   // Releases the add-in object (its last reference).
   void Release() { addin_.Reset(); }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <mutex>
+#include <optional>
 #include <thread>
 #include <utility>
 
@@ -15,16 +16,25 @@ std::wstring ClassOf(HWND hwnd) {
   return name;
 }
 
-// WM_GETTEXT across threads, without waiting forever on a busy window.
-std::wstring TextOf(HWND hwnd) {
+// WM_GETTEXT across threads, without waiting forever on a busy window;
+// nullopt when the window did not answer in time.
+std::optional<std::wstring> TextIfAnswered(HWND hwnd) {
   DWORD_PTR length = 0;
-  SendMessageTimeoutW(hwnd, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, 2000, &length);
+  if (!SendMessageTimeoutW(hwnd, WM_GETTEXTLENGTH, 0, 0, SMTO_ABORTIFHUNG, 2000, &length)) {
+    return std::nullopt;
+  }
   std::wstring text(static_cast<size_t>(length) + 1, L'\0');
   DWORD_PTR got = 0;
-  SendMessageTimeoutW(hwnd, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
-                      SMTO_ABORTIFHUNG, 2000, &got);
+  if (!SendMessageTimeoutW(hwnd, WM_GETTEXT, text.size(), reinterpret_cast<LPARAM>(text.data()),
+                           SMTO_ABORTIFHUNG, 2000, &got)) {
+    return std::nullopt;
+  }
   text.resize(static_cast<size_t>(got));
   return text;
+}
+
+std::wstring TextOf(HWND hwnd) {
+  return TextIfAnswered(hwnd).value_or(std::wstring());
 }
 
 struct Children {
@@ -35,7 +45,12 @@ struct Children {
 BOOL CALLBACK CollectChild(HWND child, LPARAM data) {
   auto* children = reinterpret_cast<Children*>(data);
   const std::wstring cls = ClassOf(child);
-  if (_wcsicmp(cls.c_str(), L"Static") == 0 || _wcsicmp(cls.c_str(), L"Edit") == 0) {
+  const bool bitmap = (GetWindowLongW(child, GWL_STYLE) & SS_TYPEMASK) == SS_BITMAP;
+  if (_wcsicmp(cls.c_str(), L"Static") == 0 && bitmap) {
+    DWORD_PTR image = 0;
+    SendMessageTimeoutW(child, STM_GETIMAGE, IMAGE_BITMAP, 0, SMTO_ABORTIFHUNG, 2000, &image);
+    if (image != 0) ++children->dialog->pictures;
+  } else if (_wcsicmp(cls.c_str(), L"Static") == 0 || _wcsicmp(cls.c_str(), L"Edit") == 0) {
     children->dialog->texts.push_back(TextOf(child));
   } else if (_wcsicmp(cls.c_str(), L"Button") == 0 && !children->firstStandardButton) {
     // Message boxes use the standard ids (IDOK ... IDCONTINUE); forms use their own.
@@ -82,9 +97,13 @@ void WatcherState::Scan() {
   std::erase_if(handled, [](HWND h) { return !IsWindow(h); });
   for (HWND hwnd : dialogs) {
     if (std::find(handled.begin(), handled.end(), hwnd) != handled.end()) continue;
+    // A dialog whose thread is busy (a test driving its own) is looked at
+    // again at the next scan: without its caption it could be taken for
+    // one the watcher must close.
+    const std::optional<std::wstring> caption = TextIfAnswered(hwnd);
+    if (!caption || caption->rfind(kLeftToTheTest, 0) == 0) continue;
     SeenDialog dialog;
-    dialog.caption = TextOf(hwnd);
-    if (dialog.caption.rfind(kLeftToTheTest, 0) == 0) continue;
+    dialog.caption = *caption;
     handled.push_back(hwnd);
     Children children{&dialog};
     EnumChildWindows(hwnd, CollectChild, reinterpret_cast<LPARAM>(&children));

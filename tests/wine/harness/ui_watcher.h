@@ -23,6 +23,7 @@ inline constexpr wchar_t kLeftToTheTest[] = L"Test: ";
 struct SeenDialog {
   std::wstring caption;
   std::vector<std::wstring> texts;  // of its static and edit controls
+  int pictures = 0;                 // static controls that show a bitmap
   bool messageBox = false;
 
   // True if any text contains `part`.

@@ -1,0 +1,55 @@
+#include "harness/dll_ribbon_addin.h"
+
+#include "platform/win32/variant_convert.h"
+#include "platform/win32/wide_text.h"
+
+namespace qvx::winetest {
+
+std::string DllRibbonAddin::GetCustomUI(std::string_view ribbonId) {
+  ComPtr<com::IRibbonExtensibility> ribbon;
+  if (FAILED(session_.addin()->QueryInterface(com::IID_IRibbonExtensibility, ribbon.PutVoid()))) {
+    return {};
+  }
+  win32::Bstr id(win32::Wide(ribbonId));
+  win32::Bstr markup;
+  if (FAILED(ribbon->GetCustomUI(id.get(), markup.Put())) || markup.get() == nullptr) return {};
+  return win32::Narrow(std::wstring_view(markup.get(), SysStringLen(markup.get())));
+}
+
+CallbackOutcome DllRibbonAddin::Call(std::string_view name, std::vector<Variant>& args,
+                                     Variant& result) {
+  ComPtr<IDispatch> dispatch = session_.Dispatch();
+  std::wstring wide = win32::Wide(name);
+  LPOLESTR names[] = {wide.data()};
+  DISPID id = DISPID_UNKNOWN;
+  if (dispatch->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id) != S_OK) {
+    return CallbackOutcome::UnknownName;
+  }
+  std::vector<VARIANT> lastFirst(args.size());
+  for (size_t i = 0; i < args.size(); ++i) {
+    VariantInit(&lastFirst[args.size() - 1 - i]);
+    win32::ToVariant(args[i], &lastFirst[args.size() - 1 - i]);
+  }
+  DISPPARAMS params{lastFirst.data(), nullptr, static_cast<UINT>(lastFirst.size()), 0};
+  VARIANT answer;
+  VariantInit(&answer);
+  EXCEPINFO info{};
+  UINT argError = 0;
+  const HRESULT hr = dispatch->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params,
+                                      &answer, &info, &argError);
+  for (VARIANT& v : lastFirst) VariantClear(&v);
+  if (hr == DISP_E_EXCEPTION) {
+    SysFreeString(info.bstrSource);
+    SysFreeString(info.bstrDescription);
+    SysFreeString(info.bstrHelpFile);
+    return CallbackOutcome::Failed;
+  }
+  if (hr == DISP_E_BADPARAMCOUNT) return CallbackOutcome::WrongArgumentCount;
+  if (hr == DISP_E_MEMBERNOTFOUND) return CallbackOutcome::UnknownName;
+  if (FAILED(hr)) return CallbackOutcome::Failed;
+  result = win32::FromVariant(answer);
+  VariantClear(&answer);
+  return CallbackOutcome::Done;
+}
+
+}  // namespace qvx::winetest

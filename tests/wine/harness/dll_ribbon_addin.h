@@ -1,0 +1,34 @@
+// The real add-in DLL as Office's ribbon reaches it: GetCustomUI through
+// IRibbonExtensibility, and each callback by the name the markup spells
+// through the add-in's GetIDsOfNames and Invoke, arguments last to first.
+// It is the simulated ribbon host's RibbonAddin, so the same calls can come
+// from a test or from that host.
+//
+//   DllRibbonAddin ribbon(session);
+//   std::vector<Variant> args{Variant(control)};
+//   Variant count;
+//   CHECK(ribbon.Call("GetItemCount", args, count) == CallbackOutcome::Done);
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "harness/addin_session.h"
+#include "sim/ribbon/ribbon_addin.h"
+
+namespace qvx::winetest {
+
+class DllRibbonAddin : public sim::RibbonAddin {
+ public:
+  explicit DllRibbonAddin(AddinSession& session) : session_(session) {}
+  std::string GetCustomUI(std::string_view ribbonId) override;
+  // An unknown name, a refused argument list and a failure come back as the
+  // outcomes the host knows.
+  CallbackOutcome Call(std::string_view name, std::vector<Variant>& args, Variant& result) override;
+
+ private:
+  AddinSession& session_;
+};
+
+}  // namespace qvx::winetest

@@ -1,0 +1,88 @@
+// The release zip as a Windows user installs it: tools/wine-tests.sh packs it
+// with tools/make-release.sh and unpacks it into release\ beside this program;
+// its install.cmd registers the add-in of Office's bitness for the user with
+// regsvr32, its uninstall.cmd removes the registration again.
+#include <windows.h>
+
+#include <string>
+
+#include "harness/addin_dll.h"
+#include "harness/check.h"
+#include "harness/registry_keys.h"
+
+namespace qvx::winetest {
+namespace {
+
+const std::wstring kServerKey =
+    L"Software\\Classes\\CLSID\\{6EB0F8F7-5EF3-4ACA-86D9-9FDE49ED7722}\\InprocServer32";
+const std::wstring kAddinKey =
+    std::wstring(L"Software\\Microsoft\\Office\\Outlook\\Addins\\") + kProgId;
+constexpr wchar_t kOutlookKey[] = L"SOFTWARE\\Microsoft\\Office\\16.0\\Outlook";
+
+std::wstring ReleaseFolder() {
+  return ProgramFolder() + L"release\\";
+}
+
+// Runs a script of the release as the user would from a prompt; its exit code.
+DWORD RunScript(const std::wstring& script, const std::wstring& argument) {
+  std::wstring command = L"cmd.exe /c \"\"" + ReleaseFolder() + script + L"\" " + argument + L"\"";
+  STARTUPINFOW startup{};
+  startup.cb = sizeof(startup);
+  PROCESS_INFORMATION process{};
+  if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
+                      nullptr, &startup, &process)) {
+    return GetLastError() | 0x80000000u;
+  }
+  WaitForSingleObject(process.hProcess, INFINITE);
+  DWORD code = 0;
+  GetExitCodeProcess(process.hProcess, &code);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  return code;
+}
+
+void SetOfficeBitness(const wchar_t* bitness) {
+  RegDeleteTreeW(HKEY_LOCAL_MACHINE, kOutlookKey);
+  if (bitness == nullptr) return;
+  const DWORD bytes = static_cast<DWORD>((wcslen(bitness) + 1) * sizeof(wchar_t));
+  REQUIRE_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, kOutlookKey, L"Bitness", REG_SZ, bitness, bytes),
+             ERROR_SUCCESS);
+}
+
+}  // namespace
+
+WINE_TEST(Release, TheScriptsRegisterAndRemoveTheUnpackedDllForTheUser) {
+  REQUIRE(GetFileAttributesW((ReleaseFolder() + L"install.cmd").c_str()) !=
+          INVALID_FILE_ATTRIBUTES);
+  const std::wstring x64Dll = ReleaseFolder() + L"x64\\QVXClient.dll";
+  const struct {
+    const char* why;
+    const wchar_t* argument;
+    const wchar_t* officeBitness;  // what Office recorded, or null
+    DWORD exitCode;
+  } rows[] = {
+      {"chosen by the argument", L"x64", nullptr, 0},
+      {"found where Office records it", L"", L"x64", 0},
+      {"neither: nothing is registered", L"", nullptr, 2},
+  };
+  for (const auto& row : rows) {
+    Note(row.why);
+    Dll().Unregister();
+    SetOfficeBitness(row.officeBitness);
+    CHECK_EQ(RunScript(L"install.cmd", row.argument), row.exitCode);
+    const auto server = ReadText(kServerKey, L"");
+    if (row.exitCode == 0) {
+      CHECK(server && _wcsicmp(server->c_str(), x64Dll.c_str()) == 0);
+      CHECK_EQ(ReadDword(kAddinKey, L"LoadBehavior"), std::optional<DWORD>(3));
+      CHECK(!KeyExists(kServerKey, HKEY_LOCAL_MACHINE));
+    } else {
+      CHECK(!server);
+    }
+    CHECK_EQ(RunScript(L"uninstall.cmd", row.argument), row.exitCode);
+    CHECK(row.exitCode != 0 || !KeyExists(kServerKey));
+  }
+  SetOfficeBitness(nullptr);
+  Dll().Unregister();
+}
+
+}  // namespace qvx::winetest

@@ -1,0 +1,237 @@
+// The add-in's face on a host it reaches only through IDispatch: command bars
+// built on an old host and worked by the user through connection points, and
+// the ribbon asked for its markup, callbacks and pictures as Office asks.
+#include <olectl.h>
+#include <windows.h>
+
+#include <string>
+#include <vector>
+
+#include "core/dates.h"
+#include "harness/addin_session.h"
+#include "harness/check.h"
+#include "harness/companion_journal.h"
+#include "harness/dll_ribbon_addin.h"
+#include "harness/registry_keys.h"
+#include "harness/ui_watcher.h"
+#include "platform/win32/dispatch_face.h"
+#include "sim/command_bar.h"
+#include "sim/command_bar_control.h"
+#include "sim/command_bars.h"
+#include "sim/explorer.h"
+#include "sim/fake_object.h"
+#include "sim/folder.h"
+#include "sim/inspector.h"
+#include "sim/item_classes.h"
+#include "sim/views.h"
+
+namespace qvx::winetest {
+namespace {
+
+// A configured user with two projects, and one appointment selected in the calendar.
+struct TaggingDesk {
+  explicit TaggingDesk(const char* version) : session(Options(version)) {
+    WriteSettings({{L"DBChoice", L"1"},
+                   {L"DBConnectionString", L"DSN=Timesheets"},
+                   {L"AllowAppointmentItems", L"-1"},
+                   {L"showProjectTaskToolbar", L"-1"},
+                   {L"ProjectMandatory", L"-1"},
+                   {L"MyProjectsTasks", L"Alpha,5,,:Design,;Review,\r\nBeta,8,,:Build,"}});
+    ClearJournal();
+    item = session.world().AddAppointment("Planning", ComposeDate({2026, 3, 2, 9, 0, 0}),
+                                          ComposeDate({2026, 3, 2, 10, 0, 0}));
+    session.Start();
+    explorer = session.world().ActiveExplorer();
+    session.world().SwitchFolder(*explorer, session.world().Calendar());
+    session.world().Select(*explorer, {item});
+  }
+  ~TaggingDesk() { DeleteTree(kSettingsKey); }
+
+  static sim::Outlook::Options Options(const char* version) {
+    sim::Outlook::Options options;
+    options.version = version;
+    return options;
+  }
+  std::string Property(const char* name) {
+    const Object found =
+        item->AsObject().Get("UserProperties").ToObject().Call("Find", {Variant(name)}).ToObject();
+    return found.IsNothing() ? "(none)" : found.Get("Value").ToText();
+  }
+  // The report of this one item, as the companion receives it.
+  std::string ReportLine() {
+    return "0|" + session.world().Calendar()->AsObject().Get("StoreID").ToText() + "|" +
+           item->EntryId() + ";";
+  }
+
+  AddinSession session;
+  std::shared_ptr<sim::SimAppointment> item;
+  std::shared_ptr<sim::SimExplorer> explorer;
+};
+
+std::shared_ptr<sim::SimBarControl> BarControl(sim::SimExplorer& explorer, const char* bar,
+                                               std::vector<const char*> path) {
+  auto found = explorer.commandBars().Find(bar);
+  if (!found) return nullptr;
+  sim::SimBarControls* controls = &found->controls();
+  std::shared_ptr<sim::SimBarControl> control;
+  for (const char* step : path) {
+    if (!controls) return nullptr;
+    control = controls->Named(step);
+    if (!control) return nullptr;
+    controls = control->children();
+  }
+  return control;
+}
+
+// Office's IRibbonControl for a control of the explorer ribbon.
+Object RibbonControl(const std::string& id, const Object& context, const std::string& tag = "") {
+  auto control = std::make_shared<sim::FakeObject>("IRibbonControl");
+  control->ReadOnly("Id", Variant(id))
+      .ReadOnly("Tag", Variant(tag))
+      .ReadOnly("Context", Variant(context));
+  return control->AsObject();
+}
+
+// The labels of a drop-down's rows, asked as the host asks them.
+std::vector<std::string> RowsOf(DllRibbonAddin& ribbon, const Object& control) {
+  std::vector<Variant> args{Variant(control)};
+  Variant count;
+  std::vector<std::string> labels;
+  if (ribbon.Call("GetItemCount", args, count) != CallbackOutcome::Done) return {"(no count)"};
+  for (int32_t i = 0; i < count.ToLong(); ++i) {
+    std::vector<Variant> rowArgs{Variant(control), Variant(i)};
+    Variant label;
+    ribbon.Call("GetItemLabel", rowArgs, label);
+    labels.push_back(label.ToText());
+  }
+  return labels;
+}
+
+}  // namespace
+
+WINE_TEST(CommandBars, TheUserTagsOpensFieldsReportsAndShutsDownThroughConnectionPoints) {
+  TaggingDesk desk("11.0.0.0");
+  auto project = std::dynamic_pointer_cast<sim::SimBarComboBox>(
+      BarControl(*desk.explorer, "Quorvix", {"Project"}));
+  auto publish = std::dynamic_pointer_cast<sim::SimBarButton>(
+      BarControl(*desk.explorer, "Quorvix", {"Publish"}));
+  REQUIRE(project != nullptr);
+  REQUIRE(publish != nullptr);
+  CHECK(project->visible());
+
+  // The Change of the project box tags the selected item.
+  project->UserPick(1);
+  CHECK_EQ(desk.Property("ProjectValue"), std::string("Alpha"));
+
+  // "All Fields..." opens the real dialog; the user closes it unsaved.
+  auto allFields = std::dynamic_pointer_cast<sim::SimBarButton>(
+      BarControl(*desk.explorer, "Quorvix", {"All Fields..."}));
+  REQUIRE(allFields != nullptr);
+  Watcher().Take();
+  allFields->UserClick();
+  const std::vector<SeenDialog> fields = Watcher().Take();
+  REQUIRE_EQ(fields.size(), size_t{1});
+  CHECK(fields[0].caption == L"All Project Fields" && !fields[0].messageBox);
+  CHECK_EQ(desk.Property("ProjectValue"), std::string("Alpha"));
+
+  // The Click reaches the report command.
+  publish->UserClick();
+  CHECK_EQ(FinishedLaunches(), (std::vector<std::string>{desk.ReportLine()}));
+  Watcher().Take();
+
+  // The menu's Shutdown asks, is answered Yes, and tears the add-in down.
+  auto shutdown = std::dynamic_pointer_cast<sim::SimBarButton>(
+      BarControl(*desk.explorer, "Menu Bar", {"Quorvix Client", "Shutdown"}));
+  REQUIRE(shutdown != nullptr);
+  REQUIRE(FindClientWindow() != nullptr);
+  shutdown->UserClick();
+  CHECK(FindClientWindow() == nullptr);
+  CHECK_EQ(desk.session.At("Explorers")->HandlerCount("NewExplorer"), size_t{0});
+  CHECK(BarControl(*desk.explorer, "Quorvix", {"Publish"}) == nullptr);
+  const std::vector<SeenDialog> seen = Watcher().Take();
+  CHECK_EQ(seen.size(), size_t{1});
+  CHECK(!seen.empty() && seen[0].messageBox);
+}
+
+WINE_TEST(Ribbon, TheExplorerRibbonTagsAndReportsThroughIDispatch) {
+  TaggingDesk desk("16.0.0.0");
+  DllRibbonAddin ribbon(desk.session);
+  const std::string markup = ribbon.GetCustomUI("Microsoft.Outlook.Explorer");
+  CHECK(markup.rfind("<customUI", 0) == 0);
+  CHECK(markup.find("id=\"cboProjectCal\"") != std::string::npos);
+
+  auto ribbonUi = std::make_shared<sim::FakeObject>("IRibbonUI");
+  ribbonUi->Method("Invalidate", 0, 0, [](sim::Args&) { return Variant(); });
+  ribbonUi->Method("InvalidateControl", 1, 1, [](sim::Args&) { return Variant(); });
+  std::vector<Variant> loadArgs{Variant(ribbonUi->AsObject())};
+  Variant none;
+  REQUIRE(ribbon.Call("OnLoad", loadArgs, none) == CallbackOutcome::Done);
+
+  const Object context = desk.explorer->AsObject();
+  const Object projects = RibbonControl("cboProjectCal", context);
+  CHECK_EQ(RowsOf(ribbon, projects), (std::vector<std::string>{"Alpha", "Beta", ""}));
+  std::vector<Variant> choice{Variant(projects), Variant(""), Variant(int32_t{0})};
+  CHECK(ribbon.Call("OnActionDropDown", choice, none) == CallbackOutcome::Done);
+  CHECK_EQ(desk.Property("ProjectValue"), std::string("Alpha"));
+  CHECK(ribbonUi->CallCount("InvalidateControl") + ribbonUi->CallCount("Invalidate") > 0);
+  CHECK_EQ(RowsOf(ribbon, RibbonControl("cboTaskCal", context)),
+           (std::vector<std::string>{"Design", "Review", ""}));
+
+  std::vector<Variant> report{Variant(RibbonControl("cmdReportCal", context))};
+  CHECK(ribbon.Call("SubExecuteAction", report, none) == CallbackOutcome::Done);
+  CHECK_EQ(FinishedLaunches(), (std::vector<std::string>{desk.ReportLine()}));
+  Watcher().Take();
+}
+
+// The views menu's content is asked by name at each drop; its entry makes the
+// prepared view in the host's calendar at the first choice and shows it.
+WINE_TEST(Ribbon, TheViewsMenuProvisionsAViewThroughIDispatch) {
+  TaggingDesk desk("16.0.0.0");
+  DllRibbonAddin ribbon(desk.session);
+  const Object context = desk.explorer->AsObject();
+  std::vector<Variant> drop{Variant(RibbonControl("dnViewsCal", context))};
+  Variant content;
+  REQUIRE(ribbon.Call("GetContentXML", drop, content) == CallbackOutcome::Done);
+  const std::string menu = content.ToText();
+  CHECK(menu.rfind("<menu xmlns=\"http://schemas.microsoft.com/office/2009/07/customui\">", 0) ==
+        0);
+  CHECK(menu.find("<button id=\"cmdDefinedView10\" label=\"Reported Items (Filtered)\"") !=
+        std::string::npos);
+
+  const std::string name = "Reported Items (Filtered)";
+  std::vector<Variant> choice{Variant(RibbonControl("cmdDefinedView10", context, name))};
+  Variant none;
+  REQUIRE(ribbon.Call("ExecuteView", choice, none) == CallbackOutcome::Done);
+  sim::SimViews& views = desk.session.world().Calendar()->views();
+  REQUIRE(views.current() != nullptr);
+  CHECK_EQ(views.current()->name(), name);
+  CHECK(views.current()->xml().find("<viewname>") != std::string::npos);
+  CHECK(Watcher().Take().empty());
+}
+
+// Outlook 2007 shows the add-in's own pictures in the inspector's ribbon,
+// asked for by name through loadImage.
+WINE_TEST(Ribbon, GetImagesAnswersPicturesOnAnOldRibbonHost) {
+  TaggingDesk desk("12.0.0.0");
+  DllRibbonAddin ribbon(desk.session);
+  const std::string markup = ribbon.GetCustomUI("Microsoft.Outlook.Appointment");
+  CHECK(markup.find("loadImage=\"getImages\"") != std::string::npos);
+  CHECK(markup.find("image=\"Report\"") != std::string::npos);
+  for (const char* name : {"Report", "Withdraw"}) {
+    std::vector<Variant> args{Variant(name)};
+    Variant picture;
+    REQUIRE(ribbon.Call("getImages", args, picture) == CallbackOutcome::Done);
+    REQUIRE(picture.IsObject());
+    ComPtr<IDispatch> dispatch = win32::DispatchOf(picture.ToObject());
+    ComPtr<IPicture> ole;
+    REQUIRE(dispatch && SUCCEEDED(dispatch->QueryInterface(IID_IPicture, ole.PutVoid())));
+    OLE_HANDLE handle = 0;
+    CHECK(SUCCEEDED(ole->get_Handle(&handle)) && handle != 0);
+  }
+  std::vector<Variant> unknown{Variant("Elsewhere")};
+  Variant nothing;
+  CHECK(ribbon.Call("getImages", unknown, nothing) == CallbackOutcome::Done);
+  CHECK(!nothing.IsObject() || nothing.ToObject().IsNothing());
+}
+
+}  // namespace qvx::winetest
