@@ -37,7 +37,7 @@ namespace qvx {
 
 class AddinState;
 
-class cViews : public IMyEventInterface, public std::enable_shared_from_this<cViews> {
+class cViews final : public IMyEventInterface, public std::enable_shared_from_this<cViews> {
  public:
   explicit cViews(AddinState& s);
   ~cViews();
