@@ -62,6 +62,7 @@ check_dll i686-w64-mingw32-objdump build/mingw-x86/bin/QVXClient.dll
 # tests install from there with its scripts.
 zip=$(tools/make-release.sh)
 rm -rf build/mingw-x64/bin/release build/mingw-x64/bin/QuorvixClient-*/
+rm -rf build/mingw-x64/bin/custom-ui  # written again by this run's ribbon tests
 (cd build/mingw-x64/bin && cmake -E tar xf "$zip" && mv QuorvixClient-*/ release)
 echo "   $zip unpacked into build/mingw-x64/bin/release"
 echo "== built in $((SECONDS - started)) s"
@@ -105,6 +106,15 @@ timeout -k 30 900 xvfb-run -a bash -c '
 ' wine-tests "$bin" "$filter"
 status=$?
 set -e
+# The ribbon documents the DLL answered through its vtable, against Office's
+# schemas (found as the native ribbon.schema test finds them).
+schemas=${QVX_CUSTOMUI_SCHEMAS:-$root/../shared/reference/schemas}
+if [[ -f "$schemas/customUI14.xsd" && -d "$bin/custom-ui" ]]; then
+  echo "== the DLL's ribbon documents against the customUI schemas"
+  /usr/bin/python3 tools/validate-custom-ui.py "$schemas" "$bin/custom-ui" || status=1  # Debian's, with python3-xmlschema
+else
+  echo "== the DLL's ribbon documents were not validated: no customUI schemas at $schemas"
+fi
 echo "== wine tests finished in $((SECONDS - started)) s"
 if ! dpkg-query -W -f='${Status}' wine32:i386 2>/dev/null | grep -q "ok installed"; then
   echo "!! The x86 QVXClient.dll was built and its surface checked, but NOT run: 32-bit Wine"

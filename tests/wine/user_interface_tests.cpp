@@ -4,10 +4,13 @@
 #include <olectl.h>
 #include <windows.h>
 
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
 #include "core/dates.h"
+#include "harness/addin_dll.h"
 #include "harness/addin_session.h"
 #include "harness/check.h"
 #include "harness/companion_journal.h"
@@ -27,6 +30,14 @@
 
 namespace qvx::winetest {
 namespace {
+
+// Keeps a document the DLL answered for tools/wine-tests.sh, which validates
+// every file of bin/custom-ui/ against Office's schemas after the run.
+void KeepForTheSchemaTest(const std::string& markup, const std::wstring& name) {
+  const std::filesystem::path folder = std::filesystem::path(ProgramFolder()) / L"custom-ui";
+  std::filesystem::create_directories(folder);
+  std::ofstream(folder / name, std::ios::binary) << markup;
+}
 
 // A configured user with two projects, and one appointment selected in the calendar.
 struct TaggingDesk {
@@ -158,6 +169,7 @@ WINE_TEST(Ribbon, TheExplorerRibbonTagsAndReportsThroughIDispatch) {
   DllRibbonAddin ribbon(desk.session);
   const std::string markup = ribbon.GetCustomUI("Microsoft.Outlook.Explorer");
   CHECK(markup.rfind("<customUI", 0) == 0);
+  KeepForTheSchemaTest(markup, L"explorer-16.xml");
   CHECK(markup.find("id=\"cboProjectCal\"") != std::string::npos);
 
   auto ribbonUi = std::make_shared<sim::FakeObject>("IRibbonUI");
@@ -215,6 +227,7 @@ WINE_TEST(Ribbon, GetImagesAnswersPicturesOnAnOldRibbonHost) {
   TaggingDesk desk("12.0.0.0");
   DllRibbonAddin ribbon(desk.session);
   const std::string markup = ribbon.GetCustomUI("Microsoft.Outlook.Appointment");
+  KeepForTheSchemaTest(markup, L"appointment-12.xml");
   CHECK(markup.find("loadImage=\"getImages\"") != std::string::npos);
   CHECK(markup.find("image=\"Report\"") != std::string::npos);
   for (const char* name : {"Report", "Withdraw"}) {
