@@ -56,6 +56,13 @@ TEST_F(RibbonCallbacks, OnLoadKeepsTheLatestRibbonForInvalidation) {
   EXPECT_EQ(world.ribbonUi().CallCount("Invalidate"), 1);
   EXPECT_EQ(other->CallCount("Invalidate"), 1);
 
+  // A ribbon that fails to refresh is the host's affair: nothing is reported.
+  other->FailMember("Invalidate", 0x80004005, "busy");
+  subInvalidateRibbon(s());
+  EXPECT_EQ(other->CallCount("Invalidate"), 2);
+  EXPECT_TRUE(world.ui().Forms().empty());
+  EXPECT_FALSE(s().err.pending());
+
   // Tear-down lets it go.
   subKillObjects(s());
   EXPECT_TRUE(s().main.objRibbonUI.IsNothing());
