@@ -79,7 +79,17 @@ class ActionSource {
         return "registry set " + Pick({"ProjectTitle", "ActivityTitle", "ProjectMandatory"}) + " " +
                Pick({"Job", "-1", "0", "\"\""});
       default:
-        return Below(20) == 0 ? "item delete " + Subject() : "pump";
+        switch (Below(20)) {
+          case 0:
+            return "item delete " + Subject();
+          case 1:
+            // A new item, so that deletions do not empty the folders for good.
+            return Below(2) ? "item task T" + std::to_string(1 + Below(3)) + " none none"
+                            : "item appointment A" + std::to_string(1 + Below(6)) +
+                                  " \"2026-03-09 09:00\" \"2026-03-09 10:00\"";
+          default:
+            return "pump";
+        }
     }
   }
 
