@@ -82,20 +82,13 @@ void cCustomFieldsTB::SetInspectorValue(int field, std::string_view stem, const 
 }
 
 void cCustomFieldsTB::SetVariableValue(std::string_view Name, const Variant& Value) noexcept {
-  Trapped(s_, "CustomToolbar.SetVariableValue", [&](Line& line) {
-    line = 10;
-    if (CustomFieldsToolbarPool* pool = InspectorPool()) pool->SetVariableValue(Name, Value);
-  });
+  WritePooledValue(s_, "CustomToolbar.SetVariableValue", Name, Value,
+                   [this] { return InspectorPool(); });
 }
 
 Variant cCustomFieldsTB::GetRibbonValueFromPool(std::string_view Name) noexcept {
-  return TrappedResult<Variant>(s_, "CustomToolbar.GetRibbonValueFromPool",
-                                [&](Line& line, Variant& result) {
-                                  line = 10;
-                                  if (CustomFieldsToolbarPool* pool = InspectorPool()) {
-                                    result = pool->GetRibbonValueFromPool(Name);
-                                  }
-                                });
+  return ReadPooledValue(s_, "CustomToolbar.GetRibbonValueFromPool", Name,
+                         [this] { return InspectorPool(); });
 }
 
 void cCustomFieldsTB::subAddButtons() noexcept {

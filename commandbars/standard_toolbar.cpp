@@ -65,20 +65,13 @@ StandardToolbarPool* cStandardTB::InspectorPool() {
 }
 
 void cStandardTB::SetVariableValue(std::string_view Name, const Variant& Value) noexcept {
-  Trapped(s_, "StandardToolbar.SetVariableValue", [&](Line& line) {
-    line = 10;
-    if (StandardToolbarPool* pool = InspectorPool()) pool->SetVariableValue(Name, Value);
-  });
+  WritePooledValue(s_, "StandardToolbar.SetVariableValue", Name, Value,
+                   [this] { return InspectorPool(); });
 }
 
 Variant cStandardTB::GetRibbonValueFromPool(std::string_view Name) noexcept {
-  return TrappedResult<Variant>(s_, "StandardToolbar.GetRibbonValueFromPool",
-                                [&](Line& line, Variant& result) {
-                                  line = 10;
-                                  if (StandardToolbarPool* pool = InspectorPool()) {
-                                    result = pool->GetRibbonValueFromPool(Name);
-                                  }
-                                });
+  return ReadPooledValue(s_, "StandardToolbar.GetRibbonValueFromPool", Name,
+                         [this] { return InspectorPool(); });
 }
 
 void cStandardTB::subAddButtons() noexcept {

@@ -20,52 +20,43 @@ InspectorRibbonPools* PoolsOf(AddinState& s, const Object& inspector) {
   return s.ribbon.FindInspector(entryId);
 }
 
+// The finder of one of the two pools (`member`) of the inspector's item, at
+// statement 10, reading it at statement 20.
+template <class Pool>
+auto PoolOf(AddinState& s, const Object& inspector, Pool InspectorRibbonPools::*member) {
+  return [&s, &inspector, member](Line& line) -> Pool* {
+    line = 10;
+    InspectorRibbonPools* pools = PoolsOf(s, inspector);
+    if (!pools) return nullptr;
+    line = 20;
+    return &(pools->*member);
+  };
+}
+
 }  // namespace
 
 Variant GetRibbonValueStandardTB(AddinState& s, const Object& inspector,
                                  std::string_view name) noexcept {
-  return TrappedResult<Variant>(s, "Addin.GetRibbonValueStandardTB",
-                                [&](Line& line, Variant& result) {
-                                  line = 10;
-                                  if (const InspectorRibbonPools* pools = PoolsOf(s, inspector)) {
-                                    line = 20;
-                                    result = pools->standard.GetRibbonValueFromPool(name);
-                                  }
-                                });
+  return ReadPooledValue(s, "Addin.GetRibbonValueStandardTB", name,
+                         PoolOf(s, inspector, &InspectorRibbonPools::standard));
 }
 
 Variant GetRibbonValueCustomTB(AddinState& s, const Object& inspector,
                                std::string_view name) noexcept {
-  return TrappedResult<Variant>(s, "Addin.GetRibbonValueCustomTB",
-                                [&](Line& line, Variant& result) {
-                                  line = 10;
-                                  if (const InspectorRibbonPools* pools = PoolsOf(s, inspector)) {
-                                    line = 20;
-                                    result = pools->custom.GetRibbonValueFromPool(name);
-                                  }
-                                });
+  return ReadPooledValue(s, "Addin.GetRibbonValueCustomTB", name,
+                         PoolOf(s, inspector, &InspectorRibbonPools::custom));
 }
 
 void SetInspectorRibbonValueStandardTB(AddinState& s, const Object& inspector,
                                        std::string_view name, const Variant& value) noexcept {
-  Trapped(s, "Addin.SetInspectorRibbonValueStandardTB", [&](Line& line) {
-    line = 10;
-    if (InspectorRibbonPools* pools = PoolsOf(s, inspector)) {
-      line = 20;
-      pools->standard.SetVariableValue(name, value);
-    }
-  });
+  WritePooledValue(s, "Addin.SetInspectorRibbonValueStandardTB", name, value,
+                   PoolOf(s, inspector, &InspectorRibbonPools::standard));
 }
 
 void SetInspectorRibbonValueCustomTB(AddinState& s, const Object& inspector, std::string_view name,
                                      const Variant& value) noexcept {
-  Trapped(s, "Addin.SetInspectorRibbonValueCustomTB", [&](Line& line) {
-    line = 10;
-    if (InspectorRibbonPools* pools = PoolsOf(s, inspector)) {
-      line = 20;
-      pools->custom.SetVariableValue(name, value);
-    }
-  });
+  WritePooledValue(s, "Addin.SetInspectorRibbonValueCustomTB", name, value,
+                   PoolOf(s, inspector, &InspectorRibbonPools::custom));
 }
 
 }  // namespace qvx

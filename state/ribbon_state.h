@@ -12,12 +12,17 @@
 //   pool.SetVariableValue("REPORT_BUTTON_INSPECTOR_CAPTION", Variant("Publish"));
 //   pool.GetRibbonValueFromPool("PROJECT_INSPECTOR_ENABLED");        // Variant(false)
 //   pool.GetRibbonValueFromPool("NO_SUCH_NAME");                      // Empty
+//
+// ReadPooledValue and WritePooledValue are the one way the toolbar objects and
+// the ribbon reach a pool by name under a trap of their own.
 #pragma once
 
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "core/ordered_dictionary.h"
+#include "core/trap.h"
 #include "core/variant.h"
 
 namespace qvx {
@@ -117,5 +122,40 @@ struct RibbonState {
   // Forgets the pools of `entryId` (its inspector has closed).
   void DropInspector(std::string_view entryId);
 };
+
+// The pool that `findPool` gives, or nullptr; a finder that takes the Line
+// sets the statement numbers itself, any other runs at statement 10.
+template <class FindPool>
+auto* FoundPool(FindPool& findPool, Line& line) {
+  if constexpr (std::is_invocable_v<FindPool&, Line&>) {
+    return findPool(line);
+  } else {
+    line = 10;
+    return findPool();
+  }
+}
+
+// The value `name` of the pool that `findPool` gives, trapped under `label`:
+// Empty when it gives nullptr or fails.
+//
+//   ReadPooledValue(s, "StandardToolbar.GetRibbonValueFromPool", name,
+//                   [&] { return InspectorPool(); });
+template <class FindPool>
+Variant ReadPooledValue(FailureSink& sink, std::string_view label, std::string_view name,
+                        FindPool&& findPool) noexcept {
+  return TrappedResult<Variant>(sink, label, [&](Line& line, Variant& result) {
+    if (const auto* pool = FoundPool(findPool, line)) result = pool->GetRibbonValueFromPool(name);
+  });
+}
+
+// Writes `value` as `name` into the pool that `findPool` gives, if any,
+// trapped under `label`.
+template <class FindPool>
+void WritePooledValue(FailureSink& sink, std::string_view label, std::string_view name,
+                      const Variant& value, FindPool&& findPool) noexcept {
+  Trapped(sink, label, [&](Line& line) {
+    if (auto* pool = FoundPool(findPool, line)) pool->SetVariableValue(name, value);
+  });
+}
 
 }  // namespace qvx

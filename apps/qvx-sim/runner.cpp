@@ -46,6 +46,15 @@ void VerbTable::Add(std::string name, std::string usage, std::string help, VerbH
   verbs_[key] = Verb{std::move(name), std::move(usage), std::move(help), std::move(handler)};
 }
 
+void VerbTable::AddExact(std::string name, std::string usage, std::string help, size_t count,
+                         VerbHandler handler) {
+  Add(std::move(name), std::move(usage), std::move(help),
+      [count, handler = std::move(handler)](World& w, const Args& a) {
+        a.Expect(count);
+        handler(w, a);
+      });
+}
+
 const Verb* VerbTable::Find(const std::vector<std::string>& words, size_t& taken) const {
   std::string key;
   const Verb* best = nullptr;

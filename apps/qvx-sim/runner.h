@@ -68,6 +68,10 @@ struct Verb {
 class VerbTable {
  public:
   void Add(std::string name, std::string usage, std::string help, VerbHandler handler);
+  // A verb of exactly `count` words: with more or fewer the statement is a
+  // usage error and `handler` does not run.
+  void AddExact(std::string name, std::string usage, std::string help, size_t count,
+                VerbHandler handler);
   // The longest verb that the words start with, and how many words it took.
   const Verb* Find(const std::vector<std::string>& words, size_t& taken) const;
   const std::map<std::string, Verb>& All() const { return verbs_; }

@@ -19,10 +19,7 @@ void Connect(World& w) {
 // A step of the host that takes no words.
 void AddStep(VerbTable& table, const std::string& name, const std::string& help,
              std::function<void(World&)> step) {
-  table.Add(name, name, help, [step](World& w, const Args& a) {
-    a.Expect(0);
-    step(w);
-  });
+  table.AddExact(name, name, help, 0, [step](World& w, const Args&) { step(w); });
 }
 
 }  // namespace

@@ -98,12 +98,9 @@ void RegisterRibbonStandInVerbs(VerbTable& table) {
                 *std::get<bool*>(value) = a.At(1) == "true";
               }
             });
-  table.Add("ribbon markup", "ribbon markup RIBBONID TEXT",
-            "stands in for the add-in: GetCustomUI answers TEXT for RIBBONID",
-            [](World& w, const Args& a) {
-              a.Expect(2);
-              w.scriptedRibbon().SetMarkup(a.At(0), a.At(1));
-            });
+  table.AddExact("ribbon markup", "ribbon markup RIBBONID TEXT",
+                 "stands in for the add-in: GetCustomUI answers TEXT for RIBBONID", 2,
+                 [](World& w, const Args& a) { w.scriptedRibbon().SetMarkup(a.At(0), a.At(1)); });
   table.Add("ribbon answer", "ribbon answer NAME [for ID] [VALUE...]",
             "stands in for the add-in's callback NAME: it answers VALUE (true, false, a number "
             "or text), the VALUE of the row asked for, or nothing; with for ID only for that "

@@ -57,12 +57,9 @@ void AddUserVerbs(VerbTable& table) {
               const int32_t type = a.Is(2, "calendar") ? host::olCalendarView : host::olTableView;
               FolderNamed(w, a.At(0))->views().Add(a.At(1), type, 0);
             });
-  table.Add("view edit", "view edit FOLDER NAME TEXT",
-            "the user changes the view by hand: its document becomes TEXT",
-            [](World& w, const Args& a) {
-              a.Expect(3);
-              ViewNamed(w, a.At(0), a.At(1))->SetXml(a.At(2));
-            });
+  table.AddExact("view edit", "view edit FOLDER NAME TEXT",
+                 "the user changes the view by hand: its document becomes TEXT", 3,
+                 [](World& w, const Args& a) { ViewNamed(w, a.At(0), a.At(1))->SetXml(a.At(2)); });
   table.Add("views load", "views load NAME",
             "the add-in provisions and applies the catalogue view NAME (placeholders allowed) "
             "in the active explorer's folder, as a click on its button does; reaches past the "
