@@ -17,6 +17,7 @@
 namespace qvx::sim {
 
 class SimApplication;
+class SimItem;
 class SimWindow;
 
 struct SimContext {
@@ -35,6 +36,10 @@ struct SimContext {
   // Every member call and enumeration on the host's objects reached from the
   // Application (or handed over with an event): what the add-in costs the host.
   uint64_t hostCalls = 0;
+  // Told of every change the add-in makes to an item through the object
+  // model: a field put, a user property added, set or removed, a Save, a
+  // Delete. Empty by default; the soak checks that only selected items change.
+  std::function<void(const SimItem&)> itemWritten;
 
   // The Application as the add-in sees it; Nothing once it is gone.
   Object Application() const;

@@ -96,6 +96,10 @@ void SimItem::Display() {
   }
 }
 
+void SimItem::NoteWrite() const {
+  if (context_->itemWritten) context_->itemWritten(*this);
+}
+
 void SimItem::CheckUsable() const {
   if (deleted_) throw HostFailure(hresult::kObjectDeleted, "The item has been moved or deleted.");
 }
@@ -109,6 +113,7 @@ void SimItem::DefineField(MemberTable& table, std::string_view name, FieldType t
   if (!writable) return;
   m.put = [key, type](SimObject& o, Args&, const Variant& v) {
     auto& item = static_cast<SimItem&>(o);
+    item.NoteWrite();
     Variant converted = ConvertField(type, v);
     item.fields_[key] = converted;
     item.fields_["saved"] = Variant(false);
@@ -135,11 +140,13 @@ MemberTable SimItem::CommonMembers() {
       .Get("Application", [](SimItem& i) { return OrNothing(i.context()->app.lock()); })
       .Method("Save", 0, 0,
               [](SimItem& i, Args&) {
+                i.NoteWrite();
                 i.Save();
                 return Variant();
               })
       .Method("Delete", 0, 0,
               [](SimItem& i, Args&) {
+                i.NoteWrite();
                 i.Delete();
                 return Variant();
               })
@@ -149,7 +156,10 @@ MemberTable SimItem::CommonMembers() {
                 return Variant();
               })
       .Method("Close", 1, 1, [](SimItem& i, Args& a) {
-        if (LongArg(a, 0) == 0) i.Save();  // olSave; olDiscard and olPromptForSave keep it
+        if (LongArg(a, 0) == 0) {  // olSave; olDiscard and olPromptForSave keep it
+          i.NoteWrite();
+          i.Save();
+        }
         if (auto app = i.context()->app.lock()) app->CloseInspectorsOf(i);
         return Variant();
       });

@@ -55,6 +55,8 @@ class SimItem : public SimObject {
   void Display();
   bool deleted() const { return deleted_; }
   int saveCount() const { return saves_; }
+  // Tells the context's itemWritten hook, if any, that the add-in changed the item.
+  void NoteWrite() const;
   const ContextPtr& context() const { return context_; }
 
  protected:

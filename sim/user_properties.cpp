@@ -66,10 +66,16 @@ const MemberTable& SimUserProperty::Members() const {
         .Get("Type", [](SimUserProperty& p) { return Variant(p.type_); })
         .Prop(
             "Value", [](SimUserProperty& p) { return p.value_; },
-            [](SimUserProperty& p, const Variant& v) { p.SetValue(v); })
+            [](SimUserProperty& p, const Variant& v) {
+              if (auto owner = p.owner_.lock()) owner->NoteWrite();
+              p.SetValue(v);
+            })
         .Get("Parent", [](SimUserProperty& p) { return OrNothing(p.owner_.lock()); })
         .Method("Delete", 0, 0, [](SimUserProperty& p, Args&) {
-          if (auto owner = p.owner_.lock()) owner->Remove(p);
+          if (auto owner = p.owner_.lock()) {
+            owner->NoteWrite();
+            owner->Remove(p);
+          }
           return Variant();
         });
     return t;
@@ -109,6 +115,10 @@ void SimUserProperties::Remove(const SimUserProperty& property) {
   std::erase_if(list_, [&](const auto& p) { return p.get() == &property; });
 }
 
+void SimUserProperties::NoteWrite() const {
+  if (auto item = item_.lock()) item->NoteWrite();
+}
+
 void SimUserProperties::Set(std::string_view name, int32_t type, const Variant& value) {
   auto property = Find(name);
   if (!property) property = Add(name, type, false);
@@ -128,9 +138,11 @@ const MemberTable& SimUserProperties::Members() const {
         .Method("Add", 2, 4,
                 [](SimUserProperties& c, Args& a) {
                   const bool toFolder = a.size() < 3 || a[2].IsEmpty() || BoolArg(a, 2);
+                  c.NoteWrite();
                   return c.Add(TextArg(a, 0), LongArg(a, 1), toFolder)->AsVariant();
                 })
         .Method("Remove", 1, 1, [](SimUserProperties& c, Args& a) {
+          c.NoteWrite();
           c.list_.erase(c.list_.begin() + static_cast<long>(IndexArg(a[0], c.list_.size())));
           return Variant();
         });

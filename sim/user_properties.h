@@ -62,6 +62,8 @@ class SimUserProperties : public SimCollection<SimUserProperty> {
   void Remove(const SimUserProperty& property);
   // Test side: the property's value, adding the property if need be.
   void Set(std::string_view name, int32_t type, const Variant& value);
+  // The item's NoteWrite, for a change the add-in makes through the object model.
+  void NoteWrite() const;
 
  protected:
   const MemberTable& Members() const override;

@@ -1,123 +1,19 @@
 #include "apps/qvx-sim/soak.h"
 
 #include <algorithm>
+#include <deque>
 #include <random>
 #include <sstream>
 #include <string>
 #include <vector>
 
+#include "apps/qvx-sim/soak_actions.h"
+#include "apps/qvx-sim/soak_watch.h"
 #include "apps/qvx-sim/world.h"
+#include "state/addin_state.h"
 
 namespace qvx::scenario {
 namespace {
-
-constexpr char kSettingsKey[] = "Software\\Zenbrook\\QVX";
-constexpr char kErrorReportCaption[] = "Unknown Exception";
-
-// A configured user on an old or a new host, with a catalogue, a few items
-// and the calendar open.
-std::vector<std::string> SetUp(std::mt19937& random) {
-  std::vector<std::string> lines = {
-      "registry set DBChoice 1",
-      "registry set DBConnectionString \"DSN=Timesheets\"",
-      "registry set AllowAppointmentItems -1",
-      "registry set AllowTaskItems -1",
-      "registry set showProjectTaskToolbar -1",
-      "registry set CustomField1Active -1",
-      "registry set CustomField1List \"Red\\r\\nGreen\"",
-      "catalogue set \"Alpha,5,,:Design,;Review,\" \"Beta,8,,:Build,\"",
-  };
-  lines.push_back(random() % 2 ? "host version 11.0.0.0" : "host version 16.0.0.0");
-  for (int i = 1; i <= 6; ++i) {
-    lines.push_back("item appointment A" + std::to_string(i) + " \"2026-03-0" + std::to_string(i) +
-                    " 09:00\" \"2026-03-0" + std::to_string(i) + " 10:00\"");
-  }
-  for (int i = 1; i <= 3; ++i) lines.push_back("item task T" + std::to_string(i) + " none none");
-  lines.push_back("addin start");
-  lines.push_back("explorer open calendar");
-  return lines;
-}
-
-class ActionSource {
- public:
-  explicit ActionSource(std::mt19937& random) : random_(random) {}
-
-  std::string Next(int faultPercent) {
-    if (Below(100) < static_cast<uint32_t>(faultPercent)) return Fault();
-    static constexpr int kKinds = 16;
-    switch (Below(kKinds)) {
-      case 0:
-        return "explorer switch " + Pick({"calendar", "tasks", "inbox"});
-      case 1:
-      case 2:
-        return Selection();
-      case 3:
-        return "bar pick Quorvix Project " + Pick({"Alpha", "Beta"});
-      case 4:
-        return "bar pick Quorvix Activity " + Pick({"Design", "Review", "Build"});
-      case 5:
-        return "bar type Quorvix Project " + Pick({"\"Side job\"", "\"\"", "Alpha"});
-      case 6:
-        return "bar click Quorvix " + Pick({"Publish", "Withdraw", "\"All Fields...\""});
-      case 7:
-        return "ribbon open Microsoft.Outlook.Explorer";
-      case 8:
-        return "ribbon choose " + Pick({"cboProjectCal", "cboProjectTask"}) + " " +
-               Pick({"Alpha", "Beta"});
-      case 9:
-        return "ribbon click " + Pick({"cmdReportCal", "cmdWithdrawReportCal", "cmdReportTask"});
-      case 10:
-        return "inspector open " + Subject();
-      case 11:
-        return "inspector close";
-      case 12:
-        return "post client " + Pick({"0", "2", "3"});
-      case 13:
-        return "post manager " + Pick({"0", "1"});
-      case 14:
-        // The companion rewrites the settings the add-in reads.
-        return "registry set " + Pick({"ProjectTitle", "ActivityTitle", "ProjectMandatory"}) + " " +
-               Pick({"Job", "-1", "0", "\"\""});
-      default:
-        switch (Below(20)) {
-          case 0:
-            return "item delete " + Subject();
-          case 1:
-            // A new item, so that deletions do not empty the folders for good.
-            return Below(2) ? "item task T" + std::to_string(1 + Below(3)) + " none none"
-                            : "item appointment A" + std::to_string(1 + Below(6)) +
-                                  " \"2026-03-09 09:00\" \"2026-03-09 10:00\"";
-          default:
-            return "pump";
-        }
-    }
-  }
-
- private:
-  uint32_t Below(uint32_t n) { return static_cast<uint32_t>(random_() % n); }
-  std::string Pick(std::initializer_list<const char*> choices) {
-    return *(choices.begin() + Below(static_cast<uint32_t>(choices.size())));
-  }
-  std::string Subject() {
-    return Below(3) == 0 ? "T" + std::to_string(1 + Below(3)) : "A" + std::to_string(1 + Below(6));
-  }
-  std::string Selection() {
-    std::string line = "explorer select";
-    const uint32_t count = Below(4);
-    for (uint32_t i = 0; i < count; ++i) line += " " + Subject();
-    return line;
-  }
-  std::string Fault() {
-    return "host fail " +
-           Pick({"ActiveExplorer.Selection", "ActiveExplorer.CurrentFolder", "ActiveExplorer",
-                 "ActiveInspector", "ActiveInspector.CurrentItem", "Explorers", "Inspectors",
-                 "Session", "Session.Categories", "ActiveExplorer.CommandBars",
-                 "Session.GetDefaultFolder(9).Items", "Session.GetDefaultFolder(13).Items"}) +
-           " " + Pick({"-2147467259", "-2147352567", "13", "91"}) + " soak 1";
-  }
-
-  std::mt19937& random_;
-};
 
 // Where a bar was left is the one thing the add-in writes to the settings.
 bool IsBarPosition(const std::string& name) {
@@ -139,10 +35,56 @@ std::vector<std::string> SettingsOf(World& world) {
   return lines;
 }
 
-size_t ErrorReports(World& world) {
-  size_t count = 0;
-  for (const auto& form : world.ui().Forms()) count += form.caption == kErrorReportCaption;
-  return count;
+// Runs one statement. "" when it ran, or could not be done at this moment
+// (`skipped`); otherwise what went wrong.
+std::string Run(World& world, const VerbTable& verbs, const std::string& line, bool required,
+                bool& skipped) {
+  skipped = false;
+  Script script;
+  if (ParseScript(line, "soak", script) || script.statements.empty()) {
+    return "the soak wrote a malformed statement";
+  }
+  const std::vector<std::string>& words = script.statements.front().words;
+  size_t taken = 0;
+  const Verb* verb = verbs.Find(words, taken);
+  if (!verb) return "no such verb";
+  try {
+    verb->handler(
+        world, Args(std::vector<std::string>(words.begin() + static_cast<long>(taken), words.end()),
+                    verb->usage));
+  } catch (const ExpectationFailed&) {
+    if (required) return "the set-up failed";
+    skipped = true;
+  } catch (const UsageError& e) {
+    if (required) return std::string("the set-up failed: ") + e.what();
+    skipped = true;
+  } catch (const std::exception& e) {
+    return std::string("an exception came out of the add-in: ") + e.what();
+  } catch (...) {
+    return "an exception came out of the add-in";
+  }
+  return "";
+}
+
+// What broke a promise the add-in keeps whatever the step: "" when none.
+std::string SettingsWritten(World& world, const std::string& line,
+                            std::vector<std::string>& settings) {
+  const bool ownWrite = line.rfind("registry set", 0) == 0 || line.rfind("catalogue set", 0) == 0;
+  if (ownWrite) {
+    settings = SettingsOf(world);
+    return "";
+  }
+  const std::vector<std::string> now = SettingsOf(world);
+  if (now == settings) return "";
+  std::string change;
+  for (const std::string& value : now) {
+    if (std::find(settings.begin(), settings.end(), value) == settings.end()) change += " " + value;
+  }
+  return "the add-in wrote the settings key:" + change;
+}
+
+bool TornDown(World& world) {
+  return world.HasAddin() && world.addin().state().main.phase == AddinPhase::TornDown;
 }
 
 }  // namespace
@@ -153,60 +95,72 @@ int RunSoak(const SoakOptions& options, const VerbTable& verbs, std::ostream& ou
   World world;
   std::ostringstream quiet;
   world.out = &quiet;
-  ActionSource actions(random);
-  std::vector<std::string> setUp = SetUp(random);
+  SoakWatch watch(world);
+  std::deque<std::string> required;
+  for (std::string& line : SoakSetUp(random)) required.push_back(std::move(line));
+  SoakActions actions(random);
   long skipped = 0;
+  long done = 0;
+  long lives = 1;
+  size_t reports = 0;      // in this add-in life
+  int afterTearDown = -1;  // once torn down: the actions left before the host restarts
   std::vector<std::string> settings;
-  const long total = options.operations + static_cast<long>(setUp.size());
-  for (long step = 0; step < total; ++step) {
-    const bool setting = step < static_cast<long>(setUp.size());
-    const std::string line =
-        setting ? setUp[static_cast<size_t>(step)] : actions.Next(options.faultPercent);
+  for (long step = 0; !required.empty() || done < options.operations; ++step) {
+    const bool setting = !required.empty();
+    std::string line;
+    if (setting) {
+      line = std::move(required.front());
+      required.pop_front();
+    } else {
+      ++done;
+      if (afterTearDown == 0) {
+        line = "host restart";
+      } else if (afterTearDown > 0) {
+        line = actions.Next(options.faultPercent);
+        --afterTearDown;
+      } else {
+        line = actions.TearDownNow() ? "addin shutdown" : actions.Next(options.faultPercent);
+      }
+    }
     const auto broke = [&](const std::string& what) {
       err << "soak " << options.seed << ", step " << step << ": " << line << "\n  " << what << "\n";
       return 1;
     };
-    Script script;
-    if (ParseScript(line, "soak", script) || script.statements.empty()) {
-      return broke("the soak wrote a malformed statement");
+    watch.BeforeStep();
+    bool notPossible = false;
+    if (const std::string why = Run(world, verbs, line, setting, notPossible); !why.empty()) {
+      return broke(why);
     }
-    const std::vector<std::string>& words = script.statements.front().words;
-    size_t taken = 0;
-    const Verb* verb = verbs.Find(words, taken);
-    if (!verb) return broke("no such verb");
-    try {
-      verb->handler(world, Args(std::vector<std::string>(words.begin() + static_cast<long>(taken),
-                                                         words.end()),
-                                verb->usage));
-    } catch (const ExpectationFailed&) {
-      if (setting) return broke("the set-up failed");
-      ++skipped;  // not possible at this moment
-    } catch (const UsageError& e) {
-      if (setting) return broke(std::string("the set-up failed: ") + e.what());
-      ++skipped;
-    } catch (const std::exception& e) {
-      return broke(std::string("an exception came out of the add-in: ") + e.what());
-    } catch (...) {
-      return broke("an exception came out of the add-in");
+    skipped += notPossible;
+    const SoakWatch::Step seen = watch.AfterStep();
+    if (const std::string why = SettingsWritten(world, line, settings); !why.empty()) {
+      return broke(why);
     }
-    const bool ownWrite = line.rfind("registry set", 0) == 0 || line.rfind("catalogue set", 0) == 0;
-    if (ownWrite) {
-      settings = SettingsOf(world);
-    } else if (const std::vector<std::string> now = SettingsOf(world); now != settings) {
-      std::string change;
-      for (const std::string& value : now) {
-        if (std::find(settings.begin(), settings.end(), value) == settings.end()) {
-          change += " " + value;
-        }
+    if (!seen.strayWrite.empty()) {
+      return broke("the add-in changed " + seen.strayWrite + ", which the user had not selected");
+    }
+    if (afterTearDown >= 0) {
+      // Torn down: nothing of the add-in runs, not even when it is released.
+      if (seen.hostCalls) return broke("the add-in called the host after its tear-down");
+      if (seen.shown) return broke("the add-in showed or launched something after its tear-down");
+      if (line == "host restart") {
+        afterTearDown = -1;
+        reports = 0;
+        ++lives;
+        required.push_back("addin start");
       }
-      return broke("the add-in wrote the settings key:" + change);
+      continue;
     }
-    if (ErrorReports(world) > 1) return broke("a second error report was shown");
+    if ((reports += seen.errorReports) > 1)
+      return broke("a second error report in one add-in life");
+    if (line == "addin shutdown") {
+      if (!TornDown(world)) return broke("the add-in is not torn down");
+      afterTearDown = actions.ActionsAfterTearDown();
+    }
   }
   world.Finish();
   out << "soak " << options.seed << ": " << options.operations << " operations (" << skipped
-      << " not possible at their moment), " << ErrorReports(world)
-      << " error report, every promise kept\n";
+      << " not possible at their moment), " << lives << " add-in lives, every promise kept\n";
   return 0;
 }
 

@@ -138,6 +138,14 @@ void World::Finish() {
   system_->WaitForChildren();
 }
 
+void World::ForgetRecords() {
+  ui_.ForgetShown();
+  system_->ClearRecords();
+  boxesSeen = 0;
+  formsSeen = 0;
+  launchesSeen = 0;
+}
+
 void World::RestartHost() {
   Finish();
   // A new host loads its ribbons anew; the script's stand-in markup stays.

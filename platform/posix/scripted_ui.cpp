@@ -240,6 +240,11 @@ void ScriptedUserInterface::ShowModal(FormModel& form) {
   done.refused = std::move(refused);
 }
 
+void ScriptedUserInterface::ForgetShown() {
+  boxes_.clear();
+  shownForms_.clear();
+}
+
 void ScriptedUserInterface::Reset() {
   answers_.clear();
   forms_.clear();

@@ -134,6 +134,9 @@ class ScriptedUserInterface : public UserInterface {
   size_t PendingForms() const { return forms_.size(); }
   // Forgets what was shown and what is queued.
   void Reset();
+  // Forgets only what was shown (boxes and forms); the queues and the order
+  // of what comes next stay. For long runs that read each record once.
+  void ForgetShown();
 
   // The first button of a box of this style (OK, Abort, Yes, Retry).
   static int FirstButton(int style);
