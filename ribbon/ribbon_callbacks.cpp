@@ -105,12 +105,33 @@ const RibbonCallback* FindRibbonCallback(std::string_view name) noexcept {
   return nullptr;
 }
 
+namespace {
+
+// What a callback answers once the add-in is torn down, without running: the
+// empty value of its kind.
+Variant InertAnswer(std::string_view name) {
+  for (const std::string_view text : {"getLabel", "GetItemLabel", "GetContentXML"}) {
+    if (name == text) return Variant("");
+  }
+  if (name == "GetItemCount" || name == "GetSelectedItemIndex") return Variant(int16_t{0});
+  if (name.starts_with("Get") || name.starts_with("Show")) return Variant(false);
+  return Variant();  // the user's acts, OnLoad, getImages
+}
+
+}  // namespace
+
 CallbackOutcome InvokeRibbonCallback(AddinState& s, std::string_view name,
                                      std::vector<Variant>& args, Variant& result,
                                      std::optional<Failure>& failure) noexcept {
   const RibbonCallback* callback = FindRibbonCallback(name);
   if (!callback) return CallbackOutcome::UnknownName;
   if (args.size() != callback->argumentCount) return CallbackOutcome::WrongArgumentCount;
+  // Torn down, the add-in stays inert, though the host may go on showing its
+  // ribbon (the "Shutdown" command leaves the host running).
+  if (s.main.phase == AddinPhase::TornDown) {
+    result = InertAnswer(callback->name);
+    return CallbackOutcome::Done;
+  }
   try {
     result = Variant();  // a callback without a result answers nothing
     callback->body(s, args, result);

@@ -36,7 +36,8 @@ enum class CallbackOutcome { Done, UnknownName, WrongArgumentCount, Failed };
 
 // Runs a callback by name. A failure the callback leaves untrapped ends in
 // `failure` and the outcome Failed: the host decides what a failing
-// callback means for its control.
+// callback means for its control. Once the add-in is torn down a callback
+// runs nothing: a getter answers False, "" or 0, anything else nothing.
 CallbackOutcome InvokeRibbonCallback(AddinState& s, std::string_view name,
                                      std::vector<Variant>& args, Variant& result,
                                      std::optional<Failure>& failure) noexcept;
