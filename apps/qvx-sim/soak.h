@@ -4,18 +4,23 @@
 //
 //   qvx-sim soak SEED OPERATIONS [FAULT-PERCENT]
 //
-// The actions are statements of the scenario language, drawn from SEED:
-// folder switches, selections, tagging from the bars and the ribbon,
-// reports, inspectors opening and closing, items vanishing, messages on both
-// channels, the companion rewriting the settings, and (FAULT-PERCENT of the
-// steps, 10 by default) a host member made to fail for its next call. An
-// action that cannot be done at that moment (no such bar, no item left) is
-// skipped. After each step:
+// The actions are statements of the scenario language, drawn from SEED
+// (soak_actions.h): folder switches, selections, tagging from the bars and the
+// ribbon, reports, inspectors opening and closing, items vanishing, messages
+// on both channels, the companion rewriting the settings, (FAULT-PERCENT of
+// the steps, 10 by default) a host member made to fail for its next call,
+// and now and then a tear-down, a few actions, and a restart with a fresh
+// add-in. An action that cannot be done at that moment is skipped. After
+// each step (soak_watch.h):
 //   - nothing but a scenario's own outcome came out of the add-in (any other
 //     exception crossed an entry point);
-//   - at most one error report has been shown (one per add-in life);
+//   - at most one error report has been shown in this add-in life;
 //   - the settings key holds exactly what the soak itself wrote there, but
-//     for the bars' positions, which the add-in keeps there.
+//     for the bars' positions, which the add-in keeps there;
+//   - no item changed that the user had neither selected in the active
+//     explorer nor open in the active inspector;
+//   - once torn down, the add-in called nothing on the host and showed or
+//     launched nothing.
 // Run under the sanitizers (the debug build), a memory fault ends the run.
 #pragma once
 
