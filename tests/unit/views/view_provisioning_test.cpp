@@ -1,7 +1,8 @@
 // Provisioning of prepared views into simulated folders: created once with
 // the folder's fields and the document fitted to the titles, applied
 // afterwards, orphans of an old title deleted, and every fault reported
-// without a half-made view going unreported.
+// without a half-made view going unreported. A folder of mail, which has no
+// documents, is tests/scenarios/views_titles.qvx's.
 #include "views/view_provisioning.h"
 
 #include <gtest/gtest.h>
@@ -129,14 +130,6 @@ TEST_F(Provisioning, EveryDocumentOfEveryViewStaysWellFormedUnderTitlesThatNeedE
     }
   }
   EXPECT_TRUE(Reports().empty());
-}
-
-TEST_F(Provisioning, AFolderOfMailGetsAnEmptyViewAndAReport) {
-  const auto inbox = host.Inbox();
-  Load(inbox, "Reported ID");
-  EXPECT_EQ(inbox->itemsMade(), 0) << "no throw-away item";
-  ASSERT_TRUE(inbox->views().Find("Reported ID")) << "created before the XML was refused";
-  EXPECT_TRUE(Reported("Views.LoadView"));
 }
 
 TEST_F(Provisioning, ANameWithoutAResourceLeavesTheViewEmptyAndIsNotFilledLater) {
