@@ -89,6 +89,12 @@ class RegistryApi {
                            std::string& buffer) = 0;
   // RegQueryValueExW into `buffer`, whose size in bytes is 2 * buffer.size().
   virtual long QueryValueW(Key key, std::u16string_view name, std::u16string& buffer) = 0;
+  // QueryValueW of a text value into a buffer of `units` UTF-16 units (the
+  // size QueryValueInfoA reported), all but the last unit handed back in
+  // `text` as UTF-8: a value shorter than that leaves NULs, a longer one
+  // fails with 234. By default the wide call converted once; a store that
+  // holds UTF-8 hands out its own text without the round trip through UTF-16.
+  virtual long QueryValueUtf8(Key key, std::string_view name, uint32_t units, std::string& text);
 
   // The platform's side of Create, Open, OpenA and of closing a key.
   virtual long CreateKey(Hive hive, std::u16string_view subKey, Key& key) = 0;

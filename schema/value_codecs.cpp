@@ -29,8 +29,9 @@ void ReplaceInPlace(std::string& text, std::string_view token, char with) {
 
 // The length of the token that starts at `at`, or 0.
 size_t TokenAt(std::string_view text, size_t at) {
+  static constexpr std::string_view kTokens[] = {"_COLON_", "_SCOLON_", "_COMMA_"};
   const std::string_view rest = text.substr(at);
-  for (const std::string_view token : {"_COLON_", "_SCOLON_", "_COMMA_"}) {
+  for (const std::string_view token : kTokens) {
     if (rest.size() < token.size()) continue;
     size_t i = 1;  // rest[0] is the underscore
     while (i < token.size() && rest[i] == token[i]) ++i;

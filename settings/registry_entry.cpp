@@ -75,12 +75,11 @@ std::string GetRegistrySetting(AddinState& s, std::string_view AppName, std::str
   if (type != platform::kRegSz) Raise(WithCode(type), "Registry data not a string");
   if (size == 0) return {};
   // The ANSI size counts a terminator: the text is size - 1 characters.
-  std::u16string buffer(size, u'\0');
-  if (registry.QueryValueW(key.get(), Utf8ToUtf16(Key), buffer) != platform::kErrorSuccess) {
+  std::string text;
+  if (registry.QueryValueUtf8(key.get(), Key, size, text) != platform::kErrorSuccess) {
     return std::string(Default);
   }
-  buffer.resize(size - 1);
-  return Utf16ToUtf8(buffer);
+  return text;
 }
 
 }  // namespace qvx::modRegistryEntry

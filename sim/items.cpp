@@ -11,7 +11,11 @@
 namespace qvx::sim {
 
 bool SimItems::Contains(const SimItem& item) const {
-  return std::any_of(list_.begin(), list_.end(), [&](const auto& i) { return i.get() == &item; });
+  return members_.contains(&item);
+}
+
+void SimItems::Place(const std::shared_ptr<SimItem>& item) {
+  if (members_.insert(item.get()).second) list_.push_back(item);
 }
 
 std::shared_ptr<SimItem> SimItems::FindByEntryId(std::string_view entryId) const {
@@ -22,7 +26,7 @@ std::shared_ptr<SimItem> SimItems::FindByEntryId(std::string_view entryId) const
 }
 
 void SimItems::Enter(const std::shared_ptr<SimItem>& item) {
-  if (!Contains(*item)) list_.push_back(item);
+  Place(item);
   EventArgs args{item->AsVariant()};
   Raise("ItemAdd", args);
 }
@@ -33,7 +37,7 @@ void SimItems::Changed(const std::shared_ptr<SimItem>& item) {
 }
 
 void SimItems::Remove(const SimItem& item) {
-  if (!Contains(item)) return;
+  if (members_.erase(&item) == 0) return;
   std::erase_if(list_, [&](const auto& i) { return i.get() == &item; });
   Raise("ItemRemove");
 }

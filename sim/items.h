@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 #include "sim/collection.h"
@@ -32,9 +33,7 @@ class SimItems : public SimCollection<SimItem> {
   void Changed(const std::shared_ptr<SimItem>& item);
   void Remove(const SimItem& item);
   // Puts a saved item in without events: what was there before anyone listened.
-  void Place(const std::shared_ptr<SimItem>& item) {
-    if (!Contains(*item)) list_.push_back(item);
-  }
+  void Place(const std::shared_ptr<SimItem>& item);
 
  protected:
   const MemberTable& Members() const override;
@@ -48,6 +47,8 @@ class SimItems : public SimCollection<SimItem> {
 
   std::weak_ptr<SimFolder> folder_;
   size_t cursor_ = 0;  // of GetFirst/GetNext
+  // The items of list_, so that saving an item does not search the folder.
+  std::unordered_set<const SimItem*> members_;
 };
 
 }  // namespace qvx::sim

@@ -32,7 +32,9 @@ mkdir -p "$stage/x64" "$stage/x86"
 
 for bits in x64 x86; do
   echo "== building mingw-$bits" >&2
-  cmake --preset "mingw-$bits" >/dev/null
+  # A build folder configured already keeps its options (the Wine tests build
+  # the x86 one with its tests).
+  [[ -f "build/mingw-$bits/CMakeCache.txt" ]] || cmake --preset "mingw-$bits" >/dev/null
   cmake --build --preset "mingw-$bits" -j2 --target QVXClient >&2
   cp "build/mingw-$bits/bin/QVXClient.dll" "$stage/$bits/"
 done

@@ -4,16 +4,19 @@
 #
 #   tools/wine-tests.sh [FILTER]
 #
-# Both MinGW-w64 presets are built (the x86 one without its tests: running
-# 32-bit programs needs the i386 Wine, which CI does not install). Each DLL
-# must export exactly the four self-registration entry points and import
-# only system DLLs. The x64 test host then runs under Wine in a private,
-# throw-away WINEPREFIX inside a virtual X server; FILTER narrows it to tests
-# whose "Suite.Name" contains it. The Object contract suite of the native
-# tests then runs on the IDispatch face of the simulated objects.
+# Both MinGW-w64 presets are built. Each DLL must export exactly the four
+# self-registration entry points and import only system DLLs. The x64 test
+# host then runs under Wine in a private, throw-away WINEPREFIX inside a
+# virtual X server; FILTER narrows it to tests whose "Suite.Name" contains
+# it. The Object contract suite of the native tests then runs on the
+# IDispatch face of the simulated objects. Where the 32-bit Wine (wine32:i386)
+# is installed, the x86 preset is built with its tests too and the same
+# tests run again, 32-bit, on the x86 DLL in a 32-bit prefix; where it is not,
+# the x86 DLL is only built and checked, and the run says so loudly.
 #
 # Environment: QVX_WINEPREFIX=DIR reuses (and keeps) a prefix instead of a
-# fresh one, which saves its set-up when run again and again by hand.
+# fresh one (DIR-x86 for the 32-bit run), which saves its set-up when run
+# again and again by hand.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 root=$(pwd)
@@ -29,10 +32,14 @@ done
 
 build() {
   local preset=$1
+  shift
   echo "== building $preset"
-  cmake --preset "$preset" >/dev/null
+  cmake --preset "$preset" "$@" >/dev/null
   cmake --build --preset "$preset" -j2
 }
+
+wine32=false
+dpkg-query -W -f='${Status}' wine32:i386 2>/dev/null | grep -q "ok installed" && wine32=true
 
 # The DLL's surface: exactly the four exports, and nothing but system DLLs.
 check_dll() {
@@ -56,67 +63,84 @@ check_dll() {
 
 build mingw-x64
 check_dll x86_64-w64-mingw32-objdump build/mingw-x64/bin/QVXClient.dll
-build mingw-x86
+build mingw-x86 -DQVX_BUILD_TESTS=$([[ $wine32 == true ]] && echo ON || echo OFF)
 check_dll i686-w64-mingw32-objdump build/mingw-x86/bin/QVXClient.dll
 # The release zip, unpacked beside the test host as a user unpacks it; the
 # tests install from there with its scripts.
 zip=$(tools/make-release.sh)
-rm -rf build/mingw-x64/bin/release build/mingw-x64/bin/QuorvixClient-*/
-rm -rf build/mingw-x64/bin/custom-ui  # written again by this run's ribbon tests
-(cd build/mingw-x64/bin && cmake -E tar xf "$zip" && mv QuorvixClient-*/ release)
-echo "   $zip unpacked into build/mingw-x64/bin/release"
+bitnesses=(x64)
+[[ $wine32 == true ]] && bitnesses+=(x86)
+for bits in "${bitnesses[@]}"; do
+  bin=build/mingw-$bits/bin
+  rm -rf "$bin"/release "$bin"/QuorvixClient-*/
+  rm -rf "$bin"/custom-ui  # written again by this run's ribbon tests
+  (cd "$bin" && cmake -E tar xf "$zip" && mv QuorvixClient-*/ release)
+  echo "   $zip unpacked into $bin/release"
+  for program in qvx_wine_tests.exe qvx_wine_contract_tests.exe QuorvixClient.exe qvx_post_message.exe QVXClient.dll; do
+    [[ -f "$bin/$program" ]] || {
+      echo "wine tests: $bin/$program was not built" >&2
+      exit 1
+    }
+  done
+done
 echo "== built in $((SECONDS - started)) s"
 
-bin="$root/build/mingw-x64/bin"
-for program in qvx_wine_tests.exe qvx_wine_contract_tests.exe QuorvixClient.exe qvx_post_message.exe QVXClient.dll; do
-  [[ -f "$bin/$program" ]] || {
-    echo "wine tests: $bin/$program was not built" >&2
-    exit 1
-  }
-done
-
-if [[ -n "${QVX_WINEPREFIX:-}" ]]; then
-  prefix=$QVX_WINEPREFIX
-  mkdir -p "$prefix"
-else
-  prefix=$(mktemp -d "${TMPDIR:-/tmp}/qvx-wine.XXXXXX")
-  trap 'WINEPREFIX="$prefix" wineserver -k 2>/dev/null || true; rm -rf "$prefix"' EXIT
-fi
-export WINEPREFIX=$prefix
 export WINEDEBUG=-all
 # No Mono or Gecko installers while the prefix is made: the tests need neither.
 export WINEDLLOVERRIDES="mscoree=;mshtml="
+prefixes=()
+trap 'for p in "${prefixes[@]}"; do WINEPREFIX="$p" wineserver -k 2>/dev/null || true; rm -rf "$p"; done' EXIT
 
-echo "== running the COM tests under $(wine --version 2>/dev/null) in $prefix"
-# One virtual display for the prefix's set-up and the tests; the prefix's
-# server is stopped before the display goes away.
-set +e
-timeout -k 30 900 xvfb-run -a bash -c '
-  set -u
-  if [[ ! -f "$WINEPREFIX/system.reg" ]]; then
-    wineboot -i >/dev/null 2>&1 || { echo "wine tests: wineboot failed" >&2; exit 1; }
-    wineserver -w
+# run_tests BITS: the test host of that bitness on its DLL, in a prefix of
+# its own (a 32-bit one for x86), then its ribbon documents against Office's
+# schemas (found as the native ribbon.schema test finds them). Fails when
+# anything failed.
+run_tests() {
+  local bits=$1 bin="$root/build/mingw-$1/bin" prefix arch=win64 result
+  [[ $bits == x86 ]] && arch=win32
+  if [[ -n "${QVX_WINEPREFIX:-}" ]]; then
+    prefix=$QVX_WINEPREFIX
+    [[ $bits == x86 ]] && prefix=$QVX_WINEPREFIX-x86
+    mkdir -p "$prefix"
+  else
+    prefix=$(mktemp -d "${TMPDIR:-/tmp}/qvx-wine-$bits.XXXXXX")
+    prefixes+=("$prefix")
   fi
-  cd "$1"
-  wine ./qvx_wine_tests.exe "$2"
+  echo "== running the COM tests on the $bits DLL under $(wine --version 2>/dev/null) in $prefix"
+  # One virtual display for the prefix's set-up and the tests; the prefix's
+  # server is stopped before the display goes away.
+  set +e
+  WINEPREFIX=$prefix WINEARCH=$arch timeout -k 30 900 xvfb-run -a bash -c '
+    set -u
+    if [[ ! -f "$WINEPREFIX/system.reg" ]]; then
+      wineboot -i >/dev/null 2>&1 || { echo "wine tests: wineboot failed" >&2; exit 1; }
+      wineserver -w
+    fi
+    cd "$1"
+    wine ./qvx_wine_tests.exe "$2"
+    result=$?
+    wine ./qvx_wine_contract_tests.exe "--gtest_filter=*${2}*" || result=1
+    wineserver -k 2>/dev/null
+    exit $result
+  ' wine-tests "$bin" "$filter"
   result=$?
-  wine ./qvx_wine_contract_tests.exe "--gtest_filter=*${2}*" || result=1
-  wineserver -k 2>/dev/null
-  exit $result
-' wine-tests "$bin" "$filter"
-status=$?
-set -e
-# The ribbon documents the DLL answered through its vtable, against Office's
-# schemas (found as the native ribbon.schema test finds them).
-schemas=${QVX_CUSTOMUI_SCHEMAS:-$root/../shared/reference/schemas}
-if [[ -f "$schemas/customUI14.xsd" && -d "$bin/custom-ui" ]]; then
-  echo "== the DLL's ribbon documents against the customUI schemas"
-  /usr/bin/python3 tools/validate-custom-ui.py "$schemas" "$bin/custom-ui" || status=1  # Debian's, with python3-xmlschema
-else
-  echo "== the DLL's ribbon documents were not validated: no customUI schemas at $schemas"
-fi
+  set -e
+  local schemas=${QVX_CUSTOMUI_SCHEMAS:-$root/../shared/reference/schemas}
+  if [[ -f "$schemas/customUI14.xsd" && -d "$bin/custom-ui" ]]; then
+    echo "== the $bits DLL's ribbon documents against the customUI schemas"
+    /usr/bin/python3 tools/validate-custom-ui.py "$schemas" "$bin/custom-ui" || result=1  # Debian's, with python3-xmlschema
+  else
+    echo "== the $bits DLL's ribbon documents were not validated: no customUI schemas at $schemas"
+  fi
+  return "$result"
+}
+
+status=0
+for bits in "${bitnesses[@]}"; do
+  run_tests "$bits" || status=1
+done
 echo "== wine tests finished in $((SECONDS - started)) s"
-if ! dpkg-query -W -f='${Status}' wine32:i386 2>/dev/null | grep -q "ok installed"; then
+if [[ $wine32 != true ]]; then
   echo "!! The x86 QVXClient.dll was built and its surface checked, but NOT run: 32-bit Wine"
   echo "!! (wine32:i386) is not installed on this machine. Only the x64 DLL was tested."
 fi

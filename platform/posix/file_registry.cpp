@@ -89,6 +89,17 @@ bool IsUtf8(std::string_view s) {
   return SanitizeUtf8(s) == s;
 }
 
+// The UTF-16 length of valid UTF-8 (the store holds no other text): one
+// unit a code point, two for those past U+FFFF.
+size_t Utf16Units(std::string_view utf8) {
+  size_t units = 0;
+  for (const char c : utf8) {
+    const auto b = static_cast<unsigned char>(c);
+    units += static_cast<size_t>((b & 0xC0) != 0x80) + static_cast<size_t>(b >= 0xF0);
+  }
+  return units;
+}
+
 int64_t Nanoseconds(const struct timespec& t) {
   return static_cast<int64_t>(t.tv_sec) * 1'000'000'000 + t.tv_nsec;
 }
@@ -277,7 +288,7 @@ long FileRegistry::QueryValueInfoA(Key key, std::string_view ansiName, uint32_t&
   if (value == nullptr) return kErrorFileNotFound;
   type = value->type;
   if (regfile::IsTextType(value->type)) {
-    const size_t units = Utf8ToUtf16(value->data).size();
+    const size_t units = Utf16Units(value->data);
     size = units == 0 ? 0 : static_cast<uint32_t>(units + 1);
   } else {
     size = static_cast<uint32_t>(value->data.size());
@@ -315,6 +326,21 @@ long FileRegistry::QueryValueW(Key key, std::u16string_view name, std::u16string
     buffer[i / 2] = static_cast<char16_t>(i % 2 == 0 ? (buffer[i / 2] & 0xFF00) | b
                                                      : (buffer[i / 2] & 0x00FF) | (b << 8));
   }
+  return kErrorSuccess;
+}
+
+long FileRegistry::QueryValueUtf8(Key key, std::string_view name, uint32_t units,
+                                  std::string& text) {
+  if (PathOf(key) == nullptr) return kErrorInvalidHandle;
+  const Value* value = FindValue(key, name);
+  if (value == nullptr) return kErrorFileNotFound;
+  // A value that fills the buffer exactly up to its terminator is the text
+  // as held; the rest (other types, a size changed since it was asked) take
+  // the wide call's path with its padding and truncation.
+  if (!regfile::IsTextType(value->type) || units == 0 || Utf16Units(value->data) != units - 1) {
+    return RegistryApi::QueryValueUtf8(key, name, units, text);
+  }
+  text = value->data;
   return kErrorSuccess;
 }
 

@@ -72,6 +72,8 @@ class FileRegistry final : public RegistryApi {
   long QueryValueA(Key key, std::string_view ansiName, uint32_t& type,
                    std::string& buffer) override;
   long QueryValueW(Key key, std::u16string_view name, std::u16string& buffer) override;
+  // The text as the file holds it, without passing through UTF-16.
+  long QueryValueUtf8(Key key, std::string_view name, uint32_t units, std::string& text) override;
   long CloseKey(Key key) override;
 
   // Direct access for tests, scenarios and the companion stand-ins.

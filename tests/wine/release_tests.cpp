@@ -19,6 +19,10 @@ const std::wstring kAddinKey =
     std::wstring(L"Software\\Microsoft\\Office\\Outlook\\Addins\\") + kProgId;
 constexpr wchar_t kOutlookKey[] = L"SOFTWARE\\Microsoft\\Office\\16.0\\Outlook";
 
+// The release's DLL this test host can load: the x86 one when it runs as a
+// 32-bit program, which is how it tests 32-bit Office.
+constexpr const wchar_t* kBitness = sizeof(void*) == 8 ? L"x64" : L"x86";
+
 std::wstring ReleaseFolder() {
   return ProgramFolder() + L"release\\";
 }
@@ -54,15 +58,15 @@ void SetOfficeBitness(const wchar_t* bitness) {
 WINE_TEST(Release, TheScriptsRegisterAndRemoveTheUnpackedDllForTheUser) {
   REQUIRE(GetFileAttributesW((ReleaseFolder() + L"install.cmd").c_str()) !=
           INVALID_FILE_ATTRIBUTES);
-  const std::wstring x64Dll = ReleaseFolder() + L"x64\\QVXClient.dll";
+  const std::wstring dll = ReleaseFolder() + kBitness + L"\\QVXClient.dll";
   const struct {
     const char* why;
     const wchar_t* argument;
     const wchar_t* officeBitness;  // what Office recorded, or null
     DWORD exitCode;
   } rows[] = {
-      {"chosen by the argument", L"x64", nullptr, 0},
-      {"found where Office records it", L"", L"x64", 0},
+      {"chosen by the argument", kBitness, nullptr, 0},
+      {"found where Office records it", L"", kBitness, 0},
       {"neither: nothing is registered", L"", nullptr, 2},
   };
   for (const auto& row : rows) {
@@ -72,7 +76,7 @@ WINE_TEST(Release, TheScriptsRegisterAndRemoveTheUnpackedDllForTheUser) {
     CHECK_EQ(RunScript(L"install.cmd", row.argument), row.exitCode);
     const auto server = ReadText(kServerKey, L"");
     if (row.exitCode == 0) {
-      CHECK(server && _wcsicmp(server->c_str(), x64Dll.c_str()) == 0);
+      CHECK(server && _wcsicmp(server->c_str(), dll.c_str()) == 0);
       CHECK_EQ(ReadDword(kAddinKey, L"LoadBehavior"), std::optional<DWORD>(3));
       CHECK(!KeyExists(kServerKey, HKEY_LOCAL_MACHINE));
     } else {

@@ -204,6 +204,45 @@ TEST(FileRegistry, WritersShareTheFile) {
   }
 }
 
+// The UTF-8 read of a text value answers as the wide read converted would,
+// for each value the companion writes after the add-in's last read.
+TEST(FileRegistry, Utf8ReadIsTheWideReadAndSeesEachNewWrite) {
+  TempFolder folder;
+  FileRegistry addin(folder.File("r.txt"));
+  FileRegistry companion(folder.File("r.txt"));
+  addin.SetSettleTime(std::chrono::nanoseconds(0));
+  ASSERT_TRUE(companion.SetString(kQvxKey, "Value", "first"));
+  RegistryApi::Key key = 0;
+  ASSERT_EQ(addin.OpenKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead, key),
+            kErrorSuccess);
+  const struct {
+    const char* written;
+    uint32_t units;  // 0: as QueryValueInfoA reports after the write
+    long result;
+  } cases[] = {
+      {"Zürich \xF0\x9F\x98\x80", 0, kErrorSuccess},  // the text as held
+      {"ab", 5, kErrorSuccess},                       // shrunk since asked: padded
+      {"abcd", 4, kErrorSuccess},                     // grown by one: cut
+      {"abcdef", 4, kErrorMoreData},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.written);
+    ASSERT_TRUE(companion.SetString(kQvxKey, "Value", c.written));
+    uint32_t type = 0, units = c.units;
+    if (units == 0) {
+      ASSERT_EQ(addin.QueryValueInfoA(key, "Value", type, units), kErrorSuccess);
+    }
+    std::string utf8 = "unchanged", wide = "unchanged";
+    EXPECT_EQ(addin.QueryValueUtf8(key, "value", units, utf8), c.result);
+    EXPECT_EQ(addin.RegistryApi::QueryValueUtf8(key, "value", units, wide), c.result);
+    EXPECT_EQ(utf8, wide);
+    if (c.units == 0) {
+      EXPECT_EQ(utf8, c.written);
+    }
+  }
+  EXPECT_EQ(addin.CloseKey(key), kErrorSuccess);
+}
+
 TEST(FileRegistry, ReadsTheFileAgainOnlyWhenItChanged) {
   TempFolder folder;
   FileRegistry addin(folder.File("r.txt"));
