@@ -70,12 +70,9 @@ TEST_F(Listener, AFailingHandlerIsReportedUnderItsChannelAndTheMessageIsStillTak
     state.main.objMySettings.reset();  // ReadSettings now fails
     EXPECT_TRUE(WindowProc(state, WM_MYMESSAGE(state, channel), 0));
     ASSERT_EQ(fresh.ui().Forms().size(), 1u);
-    std::string report;
-    for (const auto& control : fresh.ui().Forms()[0].controls) {
-      if (control.name == "txtReport") report = control.text;
-    }
-    EXPECT_TRUE(ReportIsTrap(report, channel == Channel::Client ? "fListToLocal.GetMessageID"
-                                                                : "fListToAdmin.GetMessageID"));
+    EXPECT_TRUE(ReportsTrap(ShownReports(fresh.ui()), channel == Channel::Client
+                                                          ? "fListToLocal.GetMessageID"
+                                                          : "fListToAdmin.GetMessageID"));
   }
 }
 

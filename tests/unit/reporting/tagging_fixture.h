@@ -81,15 +81,7 @@ class TaggingTest : public ::testing::Test {
   }
 
   // The failure reports shown (only the first of a process is).
-  std::vector<std::string> Reports() {
-    std::vector<std::string> reports;
-    for (const auto& form : world.ui().Forms()) {
-      for (const auto& control : form.controls) {
-        if (control.name == "txtReport") reports.push_back(control.text);
-      }
-    }
-    return reports;
-  }
+  std::vector<std::string> Reports() { return ShownReports(world.ui()); }
   // Whether a report was shown of a failure trapped under `label`.
   ::testing::AssertionResult Reported(std::string_view label) {
     return ReportsTrap(Reports(), label);

@@ -16,6 +16,7 @@
 #include "sim/inspector.h"
 #include "sim/item.h"
 #include "sim/ribbon/ribbon_markup.h"
+#include "unit/support/failure_report.h"
 
 namespace qvx::testing {
 
@@ -73,13 +74,7 @@ inline Variant CallbackAnswer(scenario::World& world, std::string_view name, Var
 
 // The text of every error report shown so far.
 inline std::vector<std::string> ErrorReports(scenario::World& world) {
-  std::vector<std::string> reports;
-  for (const platform::FormRecord& form : world.ui().Forms()) {
-    for (const platform::FormControl& c : form.controls) {
-      if (c.name == "txtReport") reports.push_back(c.text);
-    }
-  }
-  return reports;
+  return ShownReports(world.ui());
 }
 
 // Every id of the tree, in document order.

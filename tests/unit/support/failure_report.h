@@ -4,6 +4,7 @@
 // is a position in tens, and stays true when statements are renumbered.
 //
 //   EXPECT_TRUE(ReportsTrap(t.Reports(), "Main.ReportToDB"));
+//   EXPECT_TRUE(ShownReports(world.ui()).empty());
 #pragma once
 
 #include <gtest/gtest.h>
@@ -13,7 +14,20 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/posix/scripted_ui.h"
+
 namespace qvx::testing {
+
+// The text of every failure report shown through `ui` so far.
+inline std::vector<std::string> ShownReports(const platform::ScriptedUserInterface& ui) {
+  std::vector<std::string> reports;
+  for (const platform::FormRecord& form : ui.Forms()) {
+    for (const platform::FormControl& control : form.controls) {
+      if (control.name == "txtReport") reports.push_back(control.text);
+    }
+  }
+  return reports;
+}
 
 // Whether `report` is of a failure trapped under `label` at a position in tens.
 inline ::testing::AssertionResult ReportIsTrap(std::string_view report, std::string_view label) {
