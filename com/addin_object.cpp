@@ -127,7 +127,7 @@ HRESULT QVXClientDLL::Invoke(DISPID id, REFIID riid, LCID, WORD flags, DISPPARAM
     args.reserve(count);
     for (UINT i = count; i-- > 0;) {
       try {
-        args.push_back(win32::FromVariant(params->rgvarg[i]));
+        args.push_back(win32::FromVariant(params->rgvarg[i], addin_->state().memberIds));
       } catch (const Failure&) {
         if (argError) *argError = i;
         return DISP_E_TYPEMISMATCH;
@@ -167,8 +167,9 @@ HRESULT QVXClientDLL::OnConnection(IDispatch* application, ext_ConnectMode conne
   return ComEntry([&]() -> HRESULT {
     if (!application) return E_POINTER;
     KeepAlive alive(static_cast<IDTExtensibility2*>(this));
-    const Object app = win32::DispatchObject::Wrap(application);
-    const Object instance = win32::DispatchObject::Wrap(addInInst);
+    const platform::SharedMemberIds ids = addin_->state().memberIds;
+    const Object app = win32::DispatchObject::Wrap(application, ids);
+    const Object instance = win32::DispatchObject::Wrap(addInInst, ids);
     addin_->OnConnection(app, static_cast<int>(connectMode), instance);
     return S_OK;
   });

@@ -17,6 +17,7 @@
 #include <memory>
 
 #include "core/trap.h"
+#include "platform/member_ids.h"
 #include "platform/platform.h"
 #include "state/companion_state.h"
 #include "state/main_globals.h"
@@ -40,6 +41,8 @@ class AddinState final : public FailureSink {
   ~AddinState() override;
 
   platform::Platform platform;
+  // Shared with the host objects' wrappers, which hold it weakly: it goes with the state.
+  std::shared_ptr<platform::MemberIds> memberIds = std::make_shared<platform::MemberIds>();
   ErrorState err;
   // The records the main globals' clients use go before them, to outlive them.
   SupportState support;

@@ -2,7 +2,9 @@
 
 #include "platform/win32/win32_api.h"
 
+#include <cstring>
 #include <map>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -20,10 +22,14 @@ namespace qvx::win32::detail {
 
 class DispatchFace;
 
-// The faces alive in this module, so that one object has one face.
+// The faces alive in this module, so that one object has one face; the
+// names given DISPIDs, per type as a type library fixes them; and the calls
+// the faces answered.
 struct FaceRegistry {
   std::map<const void*, DispatchFace*> byIdentity;
   std::map<const IUnknown*, DispatchFace*> byInterface;
+  std::map<std::string, std::vector<std::string>, std::less<>> namesByType;  // DISPID - 1
+  FaceCalls calls;
 };
 
 FaceRegistry& Faces() {
@@ -31,10 +37,23 @@ FaceRegistry& Faces() {
   return registry;
 }
 
-// Type information that knows only the type's name, for TypeName().
+// A GUID of the type's own, the same for every object of the type.
+GUID TypeGuidOf(std::string_view type) {
+  uint64_t halves[2] = {0xcbf29ce484222325ull, 0x84222325cbf29ce4ull};  // FNV-1a, two seeds
+  for (uint64_t& h : halves) {
+    for (const char c : FoldCase(type)) h = (h ^ static_cast<unsigned char>(c)) * 0x100000001b3ull;
+  }
+  GUID guid;
+  static_assert(sizeof(guid) == sizeof(halves));
+  std::memcpy(&guid, halves, sizeof(guid));
+  return guid;
+}
+
+// Type information that knows only the type's name and GUID: TypeName(),
+// and the type by which a caller may share DISPIDs between objects.
 class NameTypeInfo final : public ITypeInfo, private ModuleCounted {
  public:
-  explicit NameTypeInfo(std::string name) : name_(Wide(name)) {}
+  explicit NameTypeInfo(std::string name) : name_(Wide(name)), guid_(TypeGuidOf(name)) {}
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** ppv) noexcept override {
     if (!ppv) return E_POINTER;
@@ -63,7 +82,16 @@ class NameTypeInfo final : public ITypeInfo, private ModuleCounted {
     }
     return S_OK;
   }
-  HRESULT STDMETHODCALLTYPE GetTypeAttr(TYPEATTR**) noexcept override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetTypeAttr(TYPEATTR** out) noexcept override {
+    if (!out) return E_POINTER;
+    *out = new (std::nothrow) TYPEATTR{};
+    if (!*out) return E_OUTOFMEMORY;
+    (*out)->guid = guid_;
+    (*out)->typekind = TKIND_DISPATCH;
+    (*out)->memidConstructor = MEMBERID_NIL;
+    (*out)->memidDestructor = MEMBERID_NIL;
+    return S_OK;
+  }
   HRESULT STDMETHODCALLTYPE GetTypeComp(ITypeComp**) noexcept override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE GetFuncDesc(UINT, FUNCDESC**) noexcept override { return E_NOTIMPL; }
   HRESULT STDMETHODCALLTYPE GetVarDesc(UINT, VARDESC**) noexcept override { return E_NOTIMPL; }
@@ -98,7 +126,9 @@ class NameTypeInfo final : public ITypeInfo, private ModuleCounted {
   HRESULT STDMETHODCALLTYPE GetContainingTypeLib(ITypeLib**, UINT*) noexcept override {
     return E_NOTIMPL;
   }
-  void STDMETHODCALLTYPE ReleaseTypeAttr(TYPEATTR*) noexcept override {}
+  void STDMETHODCALLTYPE ReleaseTypeAttr(TYPEATTR* attributes) noexcept override {
+    delete attributes;
+  }
   void STDMETHODCALLTYPE ReleaseFuncDesc(FUNCDESC*) noexcept override {}
   void STDMETHODCALLTYPE ReleaseVarDesc(VARDESC*) noexcept override {}
 
@@ -106,6 +136,7 @@ class NameTypeInfo final : public ITypeInfo, private ModuleCounted {
   ~NameTypeInfo() = default;
   RefCount refs_;
   std::wstring name_;
+  GUID guid_;
 };
 
 // _NewEnum's answer: the members as they were when asked.
@@ -297,7 +328,8 @@ class DispatchFace final : public IDispatch,
                            public IConnectionPointContainer,
                            private ModuleCounted {
  public:
-  explicit DispatchFace(std::shared_ptr<HostObject> host) : host_(std::move(host)) {
+  explicit DispatchFace(std::shared_ptr<HostObject> host)
+      : host_(std::move(host)), names_(&Faces().namesByType[host_->TypeName()]) {
     Faces().byIdentity[host_->Identity()] = this;
     Faces().byInterface[static_cast<IDispatch*>(this)] = this;
   }
@@ -331,6 +363,7 @@ class DispatchFace final : public IDispatch,
     if (!out) return E_POINTER;
     *out = nullptr;
     if (index != 0) return DISP_E_BADINDEX;
+    ++Faces().calls.typeInfos;
     try {
       *out = new NameTypeInfo(host_->TypeName());
       return S_OK;
@@ -343,6 +376,7 @@ class DispatchFace final : public IDispatch,
     if (!names || !ids) return E_POINTER;
     if (!IsEqualIID(riid, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
     if (count == 0) return E_INVALIDARG;
+    ++Faces().calls.nameLookups;
     try {
       if (!names[0]) return E_POINTER;
       const std::string name = Narrow(names[0]);
@@ -383,11 +417,12 @@ class DispatchFace final : public IDispatch,
   }
 
   DISPID IdOf(const std::string& name) {
-    for (size_t i = 0; i < names_.size(); ++i) {
-      if (EqualsText(names_[i], name)) return static_cast<DISPID>(i + 1);
+    std::vector<std::string>& names = *names_;
+    for (size_t i = 0; i < names.size(); ++i) {
+      if (EqualsText(names[i], name)) return static_cast<DISPID>(i + 1);
     }
-    names_.push_back(name);
-    return static_cast<DISPID>(names_.size());
+    names.push_back(name);
+    return static_cast<DISPID>(names.size());
   }
 
   Variant Call(const std::string& name, WORD flags, std::vector<Variant>& args) {
@@ -410,13 +445,14 @@ class DispatchFace final : public IDispatch,
 
   RefCount refs_;
   std::shared_ptr<HostObject> host_;
-  std::vector<std::string> names_;
+  std::vector<std::string>* names_;  // of the host's type, in Faces()
 };
 
 HRESULT DispatchFace::Invoke(DISPID id, REFIID riid, LCID, WORD flags, DISPPARAMS* params,
                              VARIANT* result, EXCEPINFO* excep, UINT* argError) noexcept {
   if (!IsEqualIID(riid, IID_NULL)) return DISP_E_UNKNOWNINTERFACE;
   if (!params || (params->cArgs > 0 && !params->rgvarg)) return E_INVALIDARG;
+  ++Faces().calls.invokes;
   if (result) VariantInit(result);
   ComPtr<IDispatch> self(static_cast<IDispatch*>(this));
   try {
@@ -431,8 +467,8 @@ HRESULT DispatchFace::Invoke(DISPID id, REFIID riid, LCID, WORD flags, DISPPARAM
       result->punkVal = items;
       return S_OK;
     }
-    if (id < 1 || static_cast<size_t>(id) > names_.size()) return DISP_E_MEMBERNOTFOUND;
-    const std::string name = names_[static_cast<size_t>(id) - 1];
+    if (id < 1 || static_cast<size_t>(id) > names_->size()) return DISP_E_MEMBERNOTFOUND;
+    const std::string name = (*names_)[static_cast<size_t>(id) - 1];
     const bool put = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
     const UINT named = params->cNamedArgs;
     if (put) {
@@ -503,6 +539,10 @@ ComPtr<IDispatch> DispatchOf(const Object& object) {
     return ComPtr<IDispatch>(adapter->dispatch());
   }
   return MakeDispatchFace(object.shared());
+}
+
+FaceCalls& FaceCallCounts() noexcept {
+  return detail::Faces().calls;
 }
 
 std::shared_ptr<HostObject> HostBehindFace(IDispatch* dispatch) noexcept {

@@ -15,11 +15,14 @@
 // arguments travel by reference, so that a sink can set Cancel.
 //
 // One face per host object: asking twice gives the same IDispatch, so COM
-// identity matches the object's identity.
+// identity matches the object's identity. DISPIDs are the same for every
+// object of a TypeName(), and the type information's TYPEATTR carries a GUID
+// of that type, as a host's type library makes them.
 #pragma once
 
 #include "platform/win32/win32_api.h"
 
+#include <cstdint>
 #include <memory>
 
 #include "core/object.h"
@@ -30,6 +33,15 @@ namespace qvx::win32 {
 // The IDispatch for an Object: an adapter object's own, or a face; null for Nothing.
 ComPtr<IDispatch> DispatchOf(const Object& object);
 ComPtr<IDispatch> MakeDispatchFace(std::shared_ptr<HostObject> host);
+// What COM callers asked of this module's faces: the Wine test host counts
+// the calls an add-in makes on its simulated Outlook with it.
+struct FaceCalls {
+  uint64_t invokes = 0;
+  uint64_t nameLookups = 0;  // GetIDsOfNames
+  uint64_t typeInfos = 0;    // GetTypeInfo
+};
+FaceCalls& FaceCallCounts() noexcept;
+
 // The HostObject behind a face of this module, or null for any other IDispatch.
 std::shared_ptr<HostObject> HostBehindFace(IDispatch* dispatch) noexcept;
 

@@ -35,28 +35,55 @@ std::string TypeInfoName(ITypeInfo* info) {
 
 }  // namespace
 
-Object DispatchObject::Wrap(IDispatch* dispatch) {
+Object DispatchObject::Wrap(IDispatch* dispatch, platform::SharedMemberIds shared) {
   if (!dispatch) return Object();
   // One of this module's own faces: hand back the object behind it.
   if (std::shared_ptr<HostObject> own = HostBehindFace(dispatch)) return Object(std::move(own));
-  return Object(std::make_shared<DispatchObject>(dispatch));
+  return Object(std::make_shared<DispatchObject>(dispatch, std::move(shared)));
 }
 
-DispatchObject::DispatchObject(IDispatch* dispatch) : dispatch_(dispatch) {
+DispatchObject::DispatchObject(IDispatch* dispatch, platform::SharedMemberIds shared)
+    : dispatch_(dispatch), shared_(std::move(shared)) {
   if (dispatch_) dispatch_->QueryInterface(IID_IUnknown, identity_.PutVoid());
 }
 
 DispatchObject::~DispatchObject() = default;
 
+const DispatchObject::TypeFacts& DispatchObject::Type() const {
+  if (type_) return *type_;
+  type_.emplace();
+  ComPtr<ITypeInfo> info;
+  TYPEATTR* attributes = nullptr;
+  if (FAILED(dispatch_->GetTypeInfo(0, LOCALE_USER_DEFAULT, info.Put())) || !info) return *type_;
+  type_->name = TypeInfoName(info.get());
+  if (FAILED(info->GetTypeAttr(&attributes)) || !attributes) return *type_;
+  // Only an interface fixes its DISPIDs; a type information that says only
+  // "IDispatch" could name members of any object.
+  const GUID type = attributes->guid;
+  const bool fixed =
+      (attributes->typekind == TKIND_DISPATCH || attributes->typekind == TKIND_INTERFACE) &&
+      !IsEqualGUID(type, GUID_NULL) && !IsEqualGUID(type, IID_IDispatch);
+  info->ReleaseTypeAttr(attributes);
+  if (fixed) type_->key.assign(reinterpret_cast<const char*>(&type), sizeof(type));
+  return *type_;
+}
+
 DISPID DispatchObject::IdOf(std::string_view name) {
-  const std::string key = FoldCase(name);
+  std::string key = FoldCase(name);
   if (auto it = ids_.find(key); it != ids_.end()) return it->second;
+  const std::shared_ptr<platform::MemberIds> shared = shared_.lock();
+  const std::string* type = shared && !Type().key.empty() ? &Type().key : nullptr;
+  if (type) {
+    if (const auto known = shared->Find(*type, key))
+      return ids_.emplace(std::move(key), *known).first->second;
+  }
   std::wstring wide = Wide(name);
   LPOLESTR names[] = {wide.data()};
   DISPID id = DISPID_UNKNOWN;
   const HRESULT hr = dispatch_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
   if (FAILED(hr)) throw FailureFromHresult(hr, nullptr);
-  ids_.emplace(key, id);
+  if (type) shared->Remember(*type, key, id);
+  ids_.emplace(std::move(key), id);
   return id;
 }
 
@@ -91,7 +118,7 @@ Variant DispatchObject::Invoke(std::string_view name, InvokeKind kind, std::vect
                            &info, &argError);
   }
   if (FAILED(hr)) throw FailureFromHresult(hr, &info);
-  return FromVariant(result.ref());
+  return FromVariant(result.ref(), shared_);
 }
 
 std::string DispatchObject::TypeName() const {
@@ -103,11 +130,7 @@ std::string DispatchObject::TypeName() const {
         classInfo && SUCCEEDED(classInfo->GetClassInfo(info.Put()))) {
       name = TypeInfoName(info.get());
     }
-    UINT count = 0;
-    if (name.empty() && SUCCEEDED(dispatch_->GetTypeInfoCount(&count)) && count > 0 &&
-        SUCCEEDED(dispatch_->GetTypeInfo(0, LOCALE_USER_DEFAULT, info.Put()))) {
-      name = TypeInfoName(info.get());
-    }
+    if (name.empty()) name = Type().name;
     // Hosts name a class's default interface "_Inspector"; the runtime says "Inspector".
     if (!name.empty() && name.front() == '_') name.erase(0, 1);
     return name.empty() ? std::string("Object") : name;
@@ -137,13 +160,13 @@ std::vector<Variant> DispatchObject::Enumerate() {
     ScopedVariant item;
     ULONG fetched = 0;
     if (items->Next(1, item.get(), &fetched) != S_OK || fetched != 1) break;
-    out.push_back(FromVariant(item.ref()));
+    out.push_back(FromVariant(item.ref(), shared_));
   }
   return out;
 }
 
 Subscription DispatchObject::Subscribe(std::string_view event, EventHandler handler) {
-  return SubscribeToEvent(dispatch_.get(), event, std::move(handler));
+  return SubscribeToEvent(dispatch_.get(), event, std::move(handler), shared_);
 }
 
 }  // namespace qvx::win32

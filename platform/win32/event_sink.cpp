@@ -18,10 +18,11 @@ namespace qvx::win32::detail {
 // dispinterface, as Advise requires, and ignores the interface's other events.
 class EventSink final : public IDispatch, private ModuleCounted {
  public:
-  EventSink(const GUID& diid, DISPID dispid, EventHandler handler)
+  EventSink(const GUID& diid, DISPID dispid, EventHandler handler, platform::SharedMemberIds ids)
       : diid_(diid),
         dispid_(dispid),
-        handler_(std::make_shared<EventHandler>(std::move(handler))) {}
+        handler_(std::make_shared<EventHandler>(std::move(handler))),
+        ids_(std::move(ids)) {}
 
   // After this the sink stays a valid COM object but calls nothing.
   void Disconnect() noexcept { handler_.reset(); }
@@ -67,7 +68,7 @@ class EventSink final : public IDispatch, private ModuleCounted {
       args.reserve(count);
       for (UINT i = count; i-- > 0;) {
         try {
-          args.push_back(FromVariant(params->rgvarg[i]));
+          args.push_back(FromVariant(params->rgvarg[i], ids_));
         } catch (...) {
           args.emplace_back();  // an argument of a type the logic cannot take
         }
@@ -93,6 +94,7 @@ class EventSink final : public IDispatch, private ModuleCounted {
   GUID diid_;
   DISPID dispid_;
   std::shared_ptr<EventHandler> handler_;
+  platform::SharedMemberIds ids_;  // shared by the objects of the event's arguments
 };
 
 // What a Subscription holds: unadvises when the last copy goes.
@@ -113,7 +115,8 @@ struct Advice {
 
 namespace qvx::win32 {
 
-Subscription SubscribeToEvent(IDispatch* source, std::string_view event, EventHandler handler) {
+Subscription SubscribeToEvent(IDispatch* source, std::string_view event, EventHandler handler,
+                              const platform::SharedMemberIds& ids) {
   const Failure unsupported(kNoSuchEventSet, "QVXClient",
                             "Object or class does not support the set of events");
   if (!source) throw Failure::Runtime(err::kObjectNotSet);
@@ -128,7 +131,7 @@ Subscription SubscribeToEvent(IDispatch* source, std::string_view event, EventHa
     if (FAILED(container->FindConnectionPoint(*e.diid, point.Put())) || !point) continue;
     auto advice = std::make_shared<detail::Advice>();
     advice->sink =
-        ComPtr<detail::EventSink>::Adopt(new detail::EventSink(*e.diid, e.dispid, handler));
+        ComPtr<detail::EventSink>::Adopt(new detail::EventSink(*e.diid, e.dispid, handler, ids));
     const HRESULT hr = point->Advise(advice->sink.get(), &advice->cookie);
     if (FAILED(hr)) {
       advice->sink->Disconnect();

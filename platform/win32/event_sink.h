@@ -10,11 +10,14 @@
 #include <string_view>
 
 #include "core/object.h"
+#include "platform/member_ids.h"
 
 namespace qvx::win32 {
 
-// Failure 459 if the source offers no connection point for the event.
-Subscription SubscribeToEvent(IDispatch* source, std::string_view event, EventHandler handler);
+// Failure 459 if the source offers no connection point for the event. The
+// objects among the event's arguments share `ids` (dispatch_object.h).
+Subscription SubscribeToEvent(IDispatch* source, std::string_view event, EventHandler handler,
+                              const platform::SharedMemberIds& ids = {});
 
 inline constexpr int32_t kNoSuchEventSet = 459;
 

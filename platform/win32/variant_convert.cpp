@@ -16,13 +16,13 @@ namespace {
   throw Failure::Runtime(err::kTypeMismatch);
 }
 
-Variant FromUnknown(IUnknown* unknown) {
+Variant FromUnknown(IUnknown* unknown, const platform::SharedMemberIds& ids) {
   if (!unknown) return Variant(Object());
   ComPtr<IDispatch> dispatch;
   if (FAILED(unknown->QueryInterface(IID_IDispatch, dispatch.PutVoid())) || !dispatch) {
     TypeMismatch();
   }
-  return Variant(DispatchObject::Wrap(dispatch.get()));
+  return Variant(DispatchObject::Wrap(dispatch.get(), ids));
 }
 
 Variant FromUnsigned(unsigned long long value) {
@@ -68,15 +68,15 @@ std::optional<UINT> FirstOmitted(const DISPPARAMS& params) noexcept {
   return std::nullopt;
 }
 
-Variant FromVariant(const VARIANT& in) {
+Variant FromVariant(const VARIANT& in, const platform::SharedMemberIds& ids) {
   const VARTYPE vt = in.vt;
   if (vt & (VT_ARRAY | VT_VECTOR)) TypeMismatch();
   if (vt & VT_BYREF) {
     if (!in.byref) TypeMismatch();
-    if ((vt & VT_TYPEMASK) == VT_VARIANT) return FromVariant(*in.pvarVal);
+    if ((vt & VT_TYPEMASK) == VT_VARIANT) return FromVariant(*in.pvarVal, ids);
     ScopedVariant copy;
     if (FAILED(VariantCopyInd(copy.get(), const_cast<VARIANT*>(&in)))) TypeMismatch();
-    return FromVariant(copy.ref());
+    return FromVariant(copy.ref(), ids);
   }
   switch (vt) {
     case VT_EMPTY:
@@ -117,9 +117,9 @@ Variant FromVariant(const VARIANT& in) {
     case VT_BOOL:
       return Variant(in.boolVal != VARIANT_FALSE);
     case VT_DISPATCH:
-      return in.pdispVal ? Variant(DispatchObject::Wrap(in.pdispVal)) : Variant(Object());
+      return in.pdispVal ? Variant(DispatchObject::Wrap(in.pdispVal, ids)) : Variant(Object());
     case VT_UNKNOWN:
-      return FromUnknown(in.punkVal);
+      return FromUnknown(in.punkVal, ids);
     case VT_DECIMAL: {
       ScopedVariant asDouble;
       if (FAILED(VariantChangeType(asDouble.get(), const_cast<VARIANT*>(&in), 0, VT_R8)))

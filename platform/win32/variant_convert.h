@@ -16,11 +16,13 @@
 
 #include "core/failure.h"
 #include "core/variant.h"
+#include "platform/member_ids.h"
 
 namespace qvx::win32 {
 
 // Throws Failure 13 for types the logic has no counterpart for (arrays, ...).
-Variant FromVariant(const VARIANT& in);
+// An object's wrapper shares `ids` (dispatch_object.h).
+Variant FromVariant(const VARIANT& in, const platform::SharedMemberIds& ids = {});
 // `out` must be empty (VariantInit or VariantClear); it receives a new value.
 void ToVariant(const Variant& value, VARIANT* out);
 // Stores `value` through a by-reference VARIANT, converted to the referenced

@@ -5,13 +5,16 @@
 //
 //   wine qvx_wine_tests.exe [--list] [FILTER]
 //   wine qvx_wine_tests.exe --show DIALOG    (for tools/render-dialogs.sh)
+//   wine qvx_wine_tests.exe --time-startup [PROJECTS]   (startup_timing.h)
 //
 // FILTER is a substring of "Suite.Name". Exit code 0 when every test ran
 // without failure. --show brings up one of the add-in's dialogs and leaves
 // it open until it is closed.
 #include <windows.h>
 
+#include <cctype>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 #include "dialog_pictures.h"
@@ -19,15 +22,25 @@
 #include "harness/companion_journal.h"
 #include "harness/ui_watcher.h"
 #include "harness/user_locale.h"
+#include "startup_timing.h"
 
 int main(int argc, char** argv) {
   std::string filter;
   std::string show;
+  bool timeStartup = false;
+  size_t projects = 1000;
   for (int i = 1; i < argc; ++i) {
     const std::string arg = argv[i];
     if (arg == "--list") {
       qvx::winetest::ListAll();
       return 0;
+    }
+    if (arg == "--time-startup") {
+      timeStartup = true;
+      if (i + 1 < argc && std::isdigit(static_cast<unsigned char>(argv[i + 1][0]))) {
+        projects = std::strtoul(argv[++i], nullptr, 10);
+      }
+      continue;
     }
     if (arg == "--show" && i + 1 < argc) {
       show = argv[++i];
@@ -48,6 +61,11 @@ int main(int argc, char** argv) {
   }
   qvx::winetest::SetUpJournal();
   qvx::winetest::Watcher();  // from now on no modal window can block a test
+  if (timeStartup) {
+    const int timed = qvx::winetest::TimeStartup(projects);
+    OleUninitialize();
+    return timed;
+  }
   const int result = qvx::winetest::RunAll(filter);
   qvx::winetest::SignalUserLocaleRun(result);
   OleUninitialize();

@@ -94,30 +94,6 @@ std::shared_ptr<sim::SimBarControl> BarControl(sim::SimExplorer& explorer, const
   return control;
 }
 
-// Office's IRibbonControl for a control of the explorer ribbon.
-Object RibbonControl(const std::string& id, const Object& context, const std::string& tag = "") {
-  auto control = std::make_shared<sim::FakeObject>("IRibbonControl");
-  control->ReadOnly("Id", Variant(id))
-      .ReadOnly("Tag", Variant(tag))
-      .ReadOnly("Context", Variant(context));
-  return control->AsObject();
-}
-
-// The labels of a drop-down's rows, asked as the host asks them.
-std::vector<std::string> RowsOf(DllRibbonAddin& ribbon, const Object& control) {
-  std::vector<Variant> args{Variant(control)};
-  Variant count;
-  std::vector<std::string> labels;
-  if (ribbon.Call("GetItemCount", args, count) != CallbackOutcome::Done) return {"(no count)"};
-  for (int32_t i = 0; i < count.ToLong(); ++i) {
-    std::vector<Variant> rowArgs{Variant(control), Variant(i)};
-    Variant label;
-    ribbon.Call("GetItemLabel", rowArgs, label);
-    labels.push_back(label.ToText());
-  }
-  return labels;
-}
-
 }  // namespace
 
 WINE_TEST(CommandBars, TheUserTagsOpensFieldsReportsAndShutsDownThroughConnectionPoints) {
@@ -181,12 +157,12 @@ WINE_TEST(Ribbon, TheExplorerRibbonTagsAndReportsThroughIDispatch) {
 
   const Object context = desk.explorer->AsObject();
   const Object projects = RibbonControl("cboProjectCal", context);
-  CHECK_EQ(RowsOf(ribbon, projects), (std::vector<std::string>{"Alpha", "Beta", ""}));
+  CHECK_EQ(ribbon.Rows(projects), (std::vector<std::string>{"Alpha", "Beta", ""}));
   std::vector<Variant> choice{Variant(projects), Variant(""), Variant(int32_t{0})};
   CHECK(ribbon.Call("OnActionDropDown", choice, none) == CallbackOutcome::Done);
   CHECK_EQ(desk.Property("ProjectValue"), std::string("Alpha"));
   CHECK(ribbonUi->CallCount("InvalidateControl") + ribbonUi->CallCount("Invalidate") > 0);
-  CHECK_EQ(RowsOf(ribbon, RibbonControl("cboTaskCal", context)),
+  CHECK_EQ(ribbon.Rows(RibbonControl("cboTaskCal", context)),
            (std::vector<std::string>{"Design", "Review", ""}));
 
   std::vector<Variant> report{Variant(RibbonControl("cmdReportCal", context))};

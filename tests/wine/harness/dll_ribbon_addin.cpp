@@ -2,6 +2,7 @@
 
 #include "platform/win32/variant_convert.h"
 #include "platform/win32/wide_text.h"
+#include "sim/fake_object.h"
 
 namespace qvx::winetest {
 
@@ -50,6 +51,28 @@ CallbackOutcome DllRibbonAddin::Call(std::string_view name, std::vector<Variant>
   result = win32::FromVariant(answer);
   VariantClear(&answer);
   return CallbackOutcome::Done;
+}
+
+std::vector<std::string> DllRibbonAddin::Rows(const Object& control) {
+  std::vector<Variant> args{Variant(control)};
+  Variant count;
+  std::vector<std::string> labels;
+  if (Call("GetItemCount", args, count) != CallbackOutcome::Done) return {"(no count)"};
+  for (int32_t i = 0; i < count.ToLong(); ++i) {
+    std::vector<Variant> rowArgs{Variant(control), Variant(i)};
+    Variant label;
+    Call("GetItemLabel", rowArgs, label);
+    labels.push_back(label.ToText());
+  }
+  return labels;
+}
+
+Object RibbonControl(const std::string& id, const Object& context, const std::string& tag) {
+  auto control = std::make_shared<sim::FakeObject>("IRibbonControl");
+  control->ReadOnly("Id", Variant(id))
+      .ReadOnly("Tag", Variant(tag))
+      .ReadOnly("Context", Variant(context));
+  return control->AsObject();
 }
 
 }  // namespace qvx::winetest

@@ -8,6 +8,7 @@
 //   std::vector<Variant> args{Variant(control)};
 //   Variant count;
 //   CHECK(ribbon.Call("GetItemCount", args, count) == CallbackOutcome::Done);
+//   CHECK_EQ(ribbon.Rows(RibbonControl("cboProjectCal", explorer)), names);
 #pragma once
 
 #include <string>
@@ -26,9 +27,14 @@ class DllRibbonAddin : public sim::RibbonAddin {
   // An unknown name, a refused argument list and a failure come back as the
   // outcomes the host knows.
   CallbackOutcome Call(std::string_view name, std::vector<Variant>& args, Variant& result) override;
+  // The labels of a drop-down's rows, asked as Office asks them.
+  std::vector<std::string> Rows(const Object& control);
 
  private:
   AddinSession& session_;
 };
+
+// Office's IRibbonControl for a control of a ribbon whose window is `context`.
+Object RibbonControl(const std::string& id, const Object& context, const std::string& tag = "");
 
 }  // namespace qvx::winetest

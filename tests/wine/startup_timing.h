@@ -1,0 +1,25 @@
+// A measurement, not a test: the add-in's own work in OnConnection and
+// OnStartupComplete through COM, for a configured user with a catalogue of
+// PROJECTS (1,000 unless told) projects of 20 activities
+// (bench/catalogue_text_sample.h) in the registry.
+//
+// The companion is started through the shell (WScript.Shell's Run, else
+// ShellExecute), so its process creation runs in the system's code and the
+// new process; besides the wall time of each call (QueryPerformanceCounter),
+// this thread's processor time is given, which leaves out the new process and
+// the waits for a loaded machine. The simulated Outlook runs on this thread
+// too: its share is in both figures.
+//
+//   wine qvx_wine_tests.exe --time-startup [PROJECTS]
+//
+// Prints each of five starts, then the median and minimum wall time and the
+// mean processor time. Returns 0 when every start succeeded.
+#pragma once
+
+#include <cstddef>
+
+namespace qvx::winetest {
+
+int TimeStartup(size_t projects);
+
+}  // namespace qvx::winetest
