@@ -10,6 +10,15 @@
 //   d.Exists("ALPHA");   // true
 //   d.Add("alpha", 2);   // Failure 457
 //   d.TryAdd("alpha", 2) == false   // the first of a key stays
+//
+// A value that carries its own key names it through KeyOf, a functor giving
+// the value's key as a string: the entry's `key` then refers to that string
+// instead of holding a copy, so a value that is added must carry the key it
+// is added under, and the values can only be read.
+//
+//   struct NameOf { const std::string& operator()(const Person& p) const { return p.name; } };
+//   OrderedDictionary<Person, NameOf> people;
+//   people.Add(person.name, person);
 #pragma once
 
 #include <algorithm>
@@ -17,6 +26,7 @@
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -60,15 +70,44 @@ inline uint32_t FoldedHash(std::string_view key) {
   return static_cast<uint32_t>(hash ^ (hash >> 32));
 }
 
+// An entry that holds its key beside its value.
+template <class Value>
+struct KeptKeyEntry {
+  std::string key;
+  Value value;
+};
+
+// An entry whose key is in its value: `key` follows the value when the entry
+// is copied or moved.
+template <class Value, class KeyOf>
+struct ValueKeyEntry {
+  Value value;
+  const std::string& key = KeyOf()(value);
+
+  explicit ValueKeyEntry(Value v) : value(std::move(v)) {}
+  ValueKeyEntry(const ValueKeyEntry& other) : value(other.value) {}
+  ValueKeyEntry(ValueKeyEntry&& other) noexcept(std::is_nothrow_move_constructible_v<Value>)
+      : value(std::move(other.value)) {}
+  ValueKeyEntry& operator=(const ValueKeyEntry& other) {
+    value = other.value;
+    return *this;
+  }
+  ValueKeyEntry& operator=(ValueKeyEntry&& other) noexcept(
+      std::is_nothrow_move_assignable_v<Value>) {
+    value = std::move(other.value);
+    return *this;
+  }
+};
+
 }  // namespace dictionary_detail
 
-template <class Value>
+template <class Value, class KeyOf = void>
 class OrderedDictionary {
+  static constexpr bool kKeyInValue = !std::is_void_v<KeyOf>;
+
  public:
-  struct Entry {
-    std::string key;
-    Value value;
-  };
+  using Entry = std::conditional_t<kKeyInValue, dictionary_detail::ValueKeyEntry<Value, KeyOf>,
+                                   dictionary_detail::KeptKeyEntry<Value>>;
 
   size_t Count() const noexcept { return entries_.size(); }
   bool Exists(std::string_view key) const { return IndexOf(key) != npos; }
@@ -87,17 +126,27 @@ class OrderedDictionary {
   // is there already. The key is copied before the value is moved, so it may
   // be a view into the value.
   bool TryAdd(std::string_view key, Value&& value) {
+    if constexpr (kKeyInValue) {
+      const std::string& own = KeyOf()(value);
+      // Most often the key is a view of the value's own.
+      const bool same = own.data() == key.data() && own.size() == key.size();
+      if (!same && !EqualsText(own, key)) throw Failure::Runtime(err::kInvalidProcedureCall);
+    }
     const uint32_t hash = dictionary_detail::FoldedHash(key);
     if (Locate(key, hash) != npos) return false;
     if (SlotCountFor(entries_.size() + 1) > slots_.size())
       Rehash(SlotCountFor(entries_.size() + 1));
-    entries_.push_back(Entry{std::string(key), std::move(value)});
+    if constexpr (kKeyInValue) {
+      entries_.emplace_back(std::move(value));
+    } else {
+      entries_.push_back(Entry{std::string(key), std::move(value)});
+    }
     Place(hash, entries_.size() - 1);
     return true;
   }
 
   // Item(key) = value: replaces the value of an existing key or adds it.
-  void Set(std::string_view key, Value value) {
+  void Set(std::string_view key, Value value) requires(!kKeyInValue) {
     if (Value* existing = Find(key)) {
       *existing = std::move(value);
     } else {
@@ -105,7 +154,7 @@ class OrderedDictionary {
     }
   }
 
-  Value* Find(std::string_view key) {
+  Value* Find(std::string_view key) requires(!kKeyInValue) {
     const size_t at = IndexOf(key);
     return at == npos ? nullptr : &entries_[at].value;
   }

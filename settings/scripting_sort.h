@@ -31,8 +31,8 @@ namespace qvx::Scripting {
 // O(n log n) comparisons and O(n log n) extra work for ties.
 std::vector<size_t> ExchangeSortOrder(const std::vector<std::string>& folded);
 
-template <class V>
-OrderedDictionary<V> Sort(const OrderedDictionary<V>& dic, int column = 1) {
+template <class V, class KeyOf>
+OrderedDictionary<V, KeyOf> Sort(const OrderedDictionary<V, KeyOf>& dic, int column = 1) {
   if (dic.Count() <= 1) return dic;
   if (column != 1 && column != 2) throw Failure::Runtime(err::kSubscriptOutOfRange);
   const auto& rows = dic.Entries();
@@ -47,7 +47,7 @@ OrderedDictionary<V> Sort(const OrderedDictionary<V>& dic, int column = 1) {
       throw Failure::Runtime(err::kTypeMismatch);  // an object item has no text
     }
   }
-  OrderedDictionary<V> sorted;
+  OrderedDictionary<V, KeyOf> sorted;
   for (const size_t at : ExchangeSortOrder(folded)) sorted.Add(rows[at].key, rows[at].value);
   return sorted;
 }

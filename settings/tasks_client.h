@@ -27,4 +27,9 @@ class cTasksClient {
   void AppendTo(FailureSink& s, std::string& out) const;
 };
 
+// The key of an activity in its project's dictionary: its name.
+struct ActivityName {
+  const std::string& operator()(const cTasksClient& task) const noexcept { return task.Activity; }
+};
+
 }  // namespace qvx

@@ -2,7 +2,7 @@
 //
 // `dicList` holds the activities under their names, case-blind and in the
 // order read (never sorted on reading); an entry's key is its activity's
-// name, which getItemIndex relies on. The activity list's text is the
+// name itself (one string for both), which getItemIndex relies on. The activity list's text is the
 // activity records joined by a delimiter (";" in the catalogue):
 //
 //   cTasksPerProject p;
@@ -33,7 +33,7 @@ namespace qvx {
 
 class cTasksPerProject {
  public:
-  OrderedDictionary<cTasksClient> dicList;
+  OrderedDictionary<cTasksClient, ActivityName> dicList;
   std::shared_ptr<cProjectClient> Project = std::make_shared<cProjectClient>();
 
   // 0-based position of the activity named exactly Item, case included; the

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <memory>
+#include <string>
+
 #include "core/events.h"
 #include "core/failure.h"
 #include "core/ordered_dictionary.h"
@@ -24,6 +27,26 @@ TEST(OrderedDictionary, CaseBlindUniqueKeysInInsertionOrder) {
   EXPECT_EQ(*d.Find("gamma"), 4);
   EXPECT_EQ(*d.Find("delta"), 5);
   EXPECT_EQ(*d.StoredKey("GAMMA"), "Gamma");
+}
+
+// Keys held in their values follow them when entries move (growth,
+// removal) or are copied, short texts kept inline included; a value added
+// under another key is refused.
+TEST(OrderedDictionary, KeysHeldInTheirValuesFollowThem) {
+  struct Itself {
+    const std::string& operator()(const std::string& s) const { return s; }
+  };
+  auto d = std::make_unique<OrderedDictionary<std::string, Itself>>();
+  for (int i = 0; i < 100; ++i) d->Add("k" + std::to_string(i), "K" + std::to_string(i));
+  EXPECT_THROW(d->Add("other", "value"), Failure);
+  ASSERT_TRUE(d->Remove("k0"));
+  const OrderedDictionary<std::string, Itself> copy = *d;
+  d.reset();
+  ASSERT_EQ(copy.Count(), 99u);
+  for (size_t i = 0; i < copy.Count(); ++i) {
+    EXPECT_EQ(copy.Entries()[i].key, "K" + std::to_string(i + 1));
+    EXPECT_EQ(copy.IndexOf("k" + std::to_string(i + 1)), i);
+  }
 }
 
 TEST(EventSource, HandlersEndWithTheirHandleEvenWhileRaisedAndWriteBack) {
