@@ -150,10 +150,17 @@ bool IsStorable(const Value& value) {
 }
 
 void Contents::AddKey(std::string_view path) {
-  for (size_t at = path.find('\\'); at != std::string_view::npos; at = path.find('\\', at + 1)) {
-    if (at > 0 && !keys.Exists(path.substr(0, at))) keys.Add(path.substr(0, at), {});
+  // A key's ancestors are always there before it, so the walk up stops at the
+  // first key that is: a file of deep paths reads in time of its size, not of
+  // the square of its depth.
+  std::vector<size_t> missing;  // lengths of the absent prefixes, deepest first
+  for (size_t length = path.size(); length > 0 && !keys.Exists(path.substr(0, length));) {
+    missing.push_back(length);
+    const size_t at = path.rfind('\\', length - 1);
+    if (at == std::string_view::npos) break;
+    length = at;
   }
-  if (!keys.Exists(path)) keys.Add(path, {});
+  for (auto it = missing.rbegin(); it != missing.rend(); ++it) keys.Add(path.substr(0, *it), {});
 }
 
 const Value* Contents::Find(std::string_view path, std::string_view name) const {
