@@ -282,6 +282,16 @@ std::string Utf16ToUtf8(std::u16string_view s) {
   std::string out;
   out.reserve(s.size());
   for (size_t i = 0; i < s.size(); ++i) {
+    // Runs of ASCII, nearly all of a stored catalogue, copied as a block.
+    size_t end = i;
+    while (end < s.size() && s[end] < 0x80) ++end;
+    if (end != i) {
+      const size_t at = out.size();
+      out.resize(at + (end - i));
+      for (size_t k = i; k < end; ++k) out[at + (k - i)] = static_cast<char>(s[k]);
+      i = end - 1;
+      continue;
+    }
     char32_t cp = s[i];
     if (cp >= 0xD800 && cp <= 0xDBFF && i + 1 < s.size() && s[i + 1] >= 0xDC00 &&
         s[i + 1] <= 0xDFFF) {

@@ -15,4 +15,13 @@ long RegistryApi::QueryValueUtf8(Key key, std::string_view name, uint32_t units,
   return result;
 }
 
+RegistryApi::TextValue RegistryApi::QueryTextValue(Key key, std::string_view ansiName) {
+  TextValue value;
+  value.info = QueryValueInfoA(key, ansiName, value.type, value.size);
+  if (value.info == kErrorSuccess && value.type == kRegSz && value.size != 0) {
+    value.query = QueryValueUtf8(key, ansiName, value.size, value.text);
+  }
+  return value;
+}
+
 }  // namespace qvx::platform

@@ -96,6 +96,20 @@ class RegistryApi {
   // holds UTF-8 hands out its own text without the round trip through UTF-16.
   virtual long QueryValueUtf8(Key key, std::string_view name, uint32_t units, std::string& text);
 
+  // A text value read as the settings store reads it: QueryValueInfoA, then,
+  // for a REG_SZ of a nonzero size, QueryValueUtf8 of that size. `info` is
+  // the first call's result, `query` the second's (0 when it did not run).
+  // By default those two calls; a store where the size query fetches the
+  // whole value anyway may read it once and answer both.
+  struct TextValue {
+    long info = kErrorSuccess;
+    uint32_t type = 0;
+    uint32_t size = 0;
+    long query = kErrorSuccess;
+    std::string text;
+  };
+  virtual TextValue QueryTextValue(Key key, std::string_view ansiName);
+
   // The platform's side of Create, Open, OpenA and of closing a key.
   virtual long CreateKey(Hive hive, std::u16string_view subKey, Key& key) = 0;
   virtual long OpenKey(Hive hive, std::u16string_view subKey, uint32_t access, Key& key) = 0;

@@ -64,22 +64,18 @@ std::string GetRegistrySetting(AddinState& s, std::string_view AppName, std::str
   if (open != platform::kErrorSuccess) {
     Raise(WithCode(static_cast<uint32_t>(open)), "Could not open registry section");
   }
-  uint32_t type = 0;
-  uint32_t size = 0;
-  if (registry.QueryValueInfoA(key.get(), Key, type, size) != platform::kErrorSuccess) {
+  RegistryApi::TextValue value = registry.QueryTextValue(key.get(), Key);
+  if (value.info != platform::kErrorSuccess) {
     // An absent value: the key handle stays open on this one path, as it
     // always has; the store must not start closing it behind the caller.
     [[maybe_unused]] const RegistryApi::Key leftOpen = key.Detach();
     return std::string(Default);
   }
-  if (type != platform::kRegSz) Raise(WithCode(type), "Registry data not a string");
-  if (size == 0) return {};
+  if (value.type != platform::kRegSz) Raise(WithCode(value.type), "Registry data not a string");
+  if (value.size == 0) return {};
   // The ANSI size counts a terminator: the text is size - 1 characters.
-  std::string text;
-  if (registry.QueryValueUtf8(key.get(), Key, size, text) != platform::kErrorSuccess) {
-    return std::string(Default);
-  }
-  return text;
+  if (value.query != platform::kErrorSuccess) return std::string(Default);
+  return std::move(value.text);
 }
 
 }  // namespace qvx::modRegistryEntry

@@ -4,7 +4,10 @@
 
 #include "platform/win32/wide_text.h"
 
+#include <algorithm>
 #include <string>
+
+#include "core/text.h"
 
 namespace qvx::win32 {
 namespace {
@@ -90,6 +93,47 @@ long Win32RegistryApi::QueryValueW(Key key, std::u16string_view name, std::u16st
   DWORD bytes = static_cast<DWORD>(2 * buffer.size());
   return RegQueryValueExW(ToHkey(key), Terminated(name).c_str(), nullptr, &type,
                           reinterpret_cast<BYTE*>(buffer.data()), &bytes);
+}
+
+platform::RegistryApi::TextValue Win32RegistryApi::QueryTextValue(Key key,
+                                                                  std::string_view ansiName) {
+  // The ANSI size query fetches the whole value from the registry only to
+  // count its ANSI bytes, and the wide read after it fetches it again: for a
+  // large catalogue, a megabyte and more twice. An ASCII text has as many
+  // ANSI bytes as units in every code page, so one wide read answers both;
+  // any other name, type or text takes the two calls, whose answers it keeps.
+  const auto ascii = [](auto text) {
+    return std::all_of(text.begin(), text.end(), [](auto c) { return (c & ~0x7F) == 0; });
+  };
+  if (!ascii(ansiName)) return RegistryApi::QueryTextValue(key, ansiName);
+  const std::wstring name(ansiName.begin(), ansiName.end());
+  std::u16string data(256, u'\0');
+  DWORD type = 0;
+  DWORD bytes = 0;
+  long rc = ERROR_MORE_DATA;
+  while (rc == ERROR_MORE_DATA) {  // again if the value grew in between
+    if (bytes > 2 * data.size()) data.assign((bytes + 1) / 2, u'\0');
+    bytes = static_cast<DWORD>(2 * data.size());
+    rc = RegQueryValueExW(ToHkey(key), name.c_str(), nullptr, &type,
+                          reinterpret_cast<BYTE*>(data.data()), &bytes);
+    if (rc == ERROR_MORE_DATA && bytes <= 2 * data.size()) bytes = 4 * data.size();
+  }
+  TextValue value;
+  value.type = type;
+  if (rc != ERROR_SUCCESS) {
+    value.info = rc;
+    return value;
+  }
+  data.resize(bytes / 2);
+  if (type != REG_SZ || bytes % 2 != 0 || !ascii(std::u16string_view(data))) {
+    return RegistryApi::QueryTextValue(key, ansiName);
+  }
+  value.size = static_cast<uint32_t>(data.size());
+  if (!data.empty()) {
+    data.pop_back();  // the terminator's place
+    value.text = Utf16ToUtf8(data);
+  }
+  return value;
 }
 
 long Win32RegistryApi::CloseKey(Key key) {

@@ -19,6 +19,8 @@ class Win32RegistryApi final : public platform::RegistryApi {
   long QueryValueA(Key key, std::string_view ansiName, uint32_t& type,
                    std::string& buffer) override;
   long QueryValueW(Key key, std::u16string_view name, std::u16string& buffer) override;
+  // One wide read where the name and the text are ASCII; the two calls otherwise.
+  TextValue QueryTextValue(Key key, std::string_view ansiName) override;
   long CloseKey(Key key) override;
 };
 

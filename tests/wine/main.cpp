@@ -5,13 +5,14 @@
 //
 //   wine qvx_wine_tests.exe [--list] [FILTER]
 //   wine qvx_wine_tests.exe --show DIALOG    (for tools/render-dialogs.sh)
-//   wine qvx_wine_tests.exe --time-startup [PROJECTS]   (startup_timing.h)
+//   wine qvx_wine_tests.exe --time-startup [PROJECTS [STARTS]]   (startup_timing.h)
 //
 // FILTER is a substring of "Suite.Name". Exit code 0 when every test ran
 // without failure. --show brings up one of the add-in's dialogs and leaves
 // it open until it is closed.
 #include <windows.h>
 
+#include <algorithm>
 #include <cctype>
 #include <cstdio>
 #include <cstdlib>
@@ -29,6 +30,7 @@ int main(int argc, char** argv) {
   std::string show;
   bool timeStartup = false;
   size_t projects = 1000;
+  int starts = 5;
   for (int i = 1; i < argc; ++i) {
     const std::string arg = argv[i];
     if (arg == "--list") {
@@ -39,6 +41,9 @@ int main(int argc, char** argv) {
       timeStartup = true;
       if (i + 1 < argc && std::isdigit(static_cast<unsigned char>(argv[i + 1][0]))) {
         projects = std::strtoul(argv[++i], nullptr, 10);
+      }
+      if (i + 1 < argc && std::isdigit(static_cast<unsigned char>(argv[i + 1][0]))) {
+        starts = std::max(1, std::atoi(argv[++i]));
       }
       continue;
     }
@@ -62,7 +67,7 @@ int main(int argc, char** argv) {
   qvx::winetest::SetUpJournal();
   qvx::winetest::Watcher();  // from now on no modal window can block a test
   if (timeStartup) {
-    const int timed = qvx::winetest::TimeStartup(projects);
+    const int timed = qvx::winetest::TimeStartup(projects, starts);
     OleUninitialize();
     return timed;
   }

@@ -1,10 +1,12 @@
 // The platform seams on Windows: resources compiled into a module by windres
 // and found by type, name and language; pictures handed out as IPictureDisp;
-// a read of HKEY_LOCAL_MACHINE with the about box's access.
+// a read of HKEY_LOCAL_MACHINE with the about box's access; the settings
+// store's read of a value.
 #include <windows.h>
 
 #include <olectl.h>
 
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -165,6 +167,54 @@ WINE_TEST(Registry, TheAboutBoxReadsTheMachineHive) {
   CHECK_EQ(opened.result, ERROR_SUCCESS);
   CHECK(static_cast<bool>(opened.key));
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Quorvix Wine Tests");
+  RegDeleteTreeW(HKEY_CURRENT_USER, L"SOFTWARE\\Quorvix Wine Tests");
+}
+
+// The settings store's read of a value, once through the wide call alone and
+// once as the size query and the wide read after it: the same answer for
+// every kind of stored data.
+WINE_TEST(Registry, OneWideReadAnswersAsTheSizeQueryAndTheWideReadDid) {
+  RegDeleteTreeW(HKEY_CURRENT_USER, L"SOFTWARE\\Quorvix Wine Tests");
+  struct Row {
+    const char* name;
+    DWORD type;
+    std::u16string data;
+    DWORD bytes;  // as stored; may cut the data short
+  };
+  const std::u16string text = u"Project 1,3:Design;Build";
+  const std::u16string wide = u"Zeit \u00E9\u20AC \U0001F552";
+  const std::u16string large(100000, u'x');
+  const Row rows[] = {
+      {"Text", REG_SZ, text, 2 * static_cast<DWORD>(text.size() + 1)},
+      {"Bare", REG_SZ, text, 2 * static_cast<DWORD>(text.size())},  // no terminator
+      {"Empty", REG_SZ, u"", 0},
+      {"Nul", REG_SZ, u"", 2},
+      {"Wide", REG_SZ, wide, 2 * static_cast<DWORD>(wide.size() + 1)},
+      {"Odd", REG_SZ, text, 5},
+      {"Large", REG_SZ, large, 2 * static_cast<DWORD>(large.size() + 1)},
+      {"Number", REG_DWORD, u"\x0007\x0000", 4},
+      {"Expand", REG_EXPAND_SZ, text, 2 * static_cast<DWORD>(text.size() + 1)},
+  };
+  for (const Row& row : rows) {
+    const std::wstring name(row.name, row.name + std::strlen(row.name));
+    REQUIRE_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, kTestKeyW, name.c_str(), row.type,
+                               row.data.c_str(), row.bytes),
+               ERROR_SUCCESS);
+  }
+  win32::Win32RegistryApi registry;
+  const platform::OpenedKey opened =
+      registry.OpenA(platform::Hive::CurrentUser, kTestKey, KEY_READ);
+  REQUIRE_EQ(opened.result, ERROR_SUCCESS);
+  for (const char* name :
+       {"Text", "Bare", "Empty", "Nul", "Wide", "Odd", "Large", "Number", "Expand", "Absent"}) {
+    const auto once = registry.QueryTextValue(opened.key.get(), name);
+    const auto twice = registry.RegistryApi::QueryTextValue(opened.key.get(), name);
+    CHECK_EQ(once.info, twice.info);
+    CHECK_EQ(once.type, twice.type);
+    CHECK_EQ(once.size, twice.size);
+    CHECK_EQ(once.query, twice.query);
+    CHECK_EQ(once.text, twice.text);
+  }
   RegDeleteTreeW(HKEY_CURRENT_USER, L"SOFTWARE\\Quorvix Wine Tests");
 }
 

@@ -46,6 +46,12 @@ TEST(Text, Utf16RoundTripAndInvalidBytes) {
             "b");
   EXPECT_EQ(SanitizeUtf8("\xC0\x80"), "\xEF\xBF\xBD\xEF\xBF\xBD");  // overlong NUL
   EXPECT_EQ(Utf16ToUtf8(std::u16string(1, u'\xD800')), "\xEF\xBF\xBD");
+  // ASCII runs end exactly where a wider character or a lone surrogate starts.
+  const std::u16string mixed{u'a', 0x7F, 0x80, u'b', 0, 0xDC00, u'c', 0xD800};
+  EXPECT_EQ(Utf16ToUtf8(mixed), std::string("a\x7F\xC2\x80"
+                                            "b\0\xEF\xBF\xBD"
+                                            "c\xEF\xBF\xBD",
+                                            13));
 }
 
 }  // namespace
