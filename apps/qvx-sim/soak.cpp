@@ -83,6 +83,8 @@ std::string SettingsWritten(World& world, const std::string& line,
   return "the add-in wrote the settings key:" + change;
 }
 
+constexpr char kHostVersion[] = "host version ";
+
 bool TornDown(World& world) {
   return world.HasAddin() && world.addin().state().main.phase == AddinPhase::TornDown;
 }
@@ -97,8 +99,33 @@ int RunSoak(const SoakOptions& options, const VerbTable& verbs, std::ostream& ou
   world.out = &quiet;
   SoakWatch watch(world);
   std::deque<std::string> required;
-  for (std::string& line : SoakSetUp(random)) required.push_back(std::move(line));
+  std::string host;  // the host's major version, as the set-up chose it
+  for (std::string& line : SoakSetUp(random)) {
+    if (line.rfind(kHostVersion, 0) == 0) host = line.substr(sizeof kHostVersion - 1, 2);
+    required.push_back(std::move(line));
+  }
   SoakActions actions(random);
+  // Interruptions draw from their own stream, so that a seed's actions are the
+  // same whatever the add-in's loops do.
+  std::mt19937 interruptRandom(options.seed ^ 0x9E3779B9u);
+  SoakActions interruptions(interruptRandom);
+  bool interrupting = false;  // only once the set-up is done
+  long interrupted = 0;
+  std::string interruptFailure;
+  world.whileAddinPumps = [&] {
+    if (!interrupting) return;
+    const std::string line = interruptions.Interruption();
+    if (line.empty()) return;
+    ++interrupted;
+    bool notPossible = false;
+    const std::string why = Run(world, verbs, line, false, notPossible);
+    if (!why.empty() && interruptFailure.empty()) interruptFailure = line + ": " + why;
+  };
+  // Unhooked before what the hook uses goes, whichever way the run ends.
+  struct Unhook {
+    World& world;
+    ~Unhook() { world.whileAddinPumps = nullptr; }
+  } unhook{world};
   long skipped = 0;
   long done = 0;
   long lives = 1;
@@ -127,10 +154,12 @@ int RunSoak(const SoakOptions& options, const VerbTable& verbs, std::ostream& ou
       return 1;
     };
     watch.BeforeStep();
+    interrupting = !setting;
     bool notPossible = false;
     if (const std::string why = Run(world, verbs, line, setting, notPossible); !why.empty()) {
       return broke(why);
     }
+    if (!interruptFailure.empty()) return broke("while the add-in pumped, " + interruptFailure);
     skipped += notPossible;
     const SoakWatch::Step seen = watch.AfterStep();
     if (const std::string why = SettingsWritten(world, line, settings); !why.empty()) {
@@ -160,7 +189,9 @@ int RunSoak(const SoakOptions& options, const VerbTable& verbs, std::ostream& ou
   }
   world.Finish();
   out << "soak " << options.seed << ": " << options.operations << " operations (" << skipped
-      << " not possible at their moment), " << lives << " add-in lives, every promise kept\n";
+      << " not possible at their moment), " << interrupted
+      << " interruptions while the add-in pumped, " << lives << " add-in lives on host " << host
+      << ", every promise kept\n";
   return 0;
 }
 

@@ -10,7 +10,9 @@
 // on both channels, the companion rewriting the settings, (FAULT-PERCENT of
 // the steps, 10 by default) a host member made to fail for its next call,
 // and now and then a tear-down, a few actions, and a restart with a fresh
-// add-in. An action that cannot be done at that moment is skipped. After
+// add-in. While the add-in's own loops let pending work through, items vanish
+// or appear and messages arrive (half the time). An action that cannot be done
+// at that moment is skipped. After
 // each step (soak_watch.h):
 //   - nothing but a scenario's own outcome came out of the add-in (any other
 //     exception crossed an entry point);

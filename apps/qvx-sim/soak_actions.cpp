@@ -9,6 +9,8 @@ std::vector<std::string> SoakSetUp(std::mt19937& random) {
       "registry set AllowAppointmentItems -1",
       "registry set AllowTaskItems -1",
       "registry set showProjectTaskToolbar -1",
+      // Its loop over the projects lets pending work through at each one.
+      "registry set AddProjectColorCodes -1",
       "registry set CustomField1Active -1",
       "registry set CustomField1List \"Red\\r\\nGreen\"",
       "catalogue set \"Alpha,5,,:Design,;Review,\" \"Beta,8,,:Build,\"",
@@ -66,12 +68,23 @@ std::string SoakActions::Next(int faultPercent) {
           return "item delete " + Subject();
         case 1:
           // A new item, so that deletions do not empty the folders for good.
-          return Below(2) ? "item task T" + std::to_string(1 + Below(3)) + " none none"
-                          : "item appointment A" + std::to_string(1 + Below(6)) +
-                                " \"2026-03-09 09:00\" \"2026-03-09 10:00\"";
+          return NewItem();
         default:
           return "pump";
       }
+  }
+}
+
+std::string SoakActions::Interruption() {
+  if (Below(2) != 0) return "";
+  switch (Below(4)) {
+    case 0:
+    case 1:
+      return "item delete " + Subject();
+    case 2:
+      return NewItem();
+    default:
+      return Below(2) ? "post client " + Pick({"0", "2", "3"}) : "post manager " + Pick({"0", "1"});
   }
 }
 
@@ -80,6 +93,11 @@ std::string SoakActions::Pick(std::initializer_list<const char*> choices) {
 }
 std::string SoakActions::Subject() {
   return Below(3) == 0 ? "T" + std::to_string(1 + Below(3)) : "A" + std::to_string(1 + Below(6));
+}
+std::string SoakActions::NewItem() {
+  return Below(2) ? "item task T" + std::to_string(1 + Below(3)) + " none none"
+                  : "item appointment A" + std::to_string(1 + Below(6)) +
+                        " \"2026-03-09 09:00\" \"2026-03-09 10:00\"";
 }
 std::string SoakActions::Selection() {
   std::string line = "explorer select";

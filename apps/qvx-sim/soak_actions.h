@@ -27,6 +27,11 @@ class SoakActions {
   // A user action, or (faultPercent of the time) a host member made to fail
   // for its next call.
   std::string Next(int faultPercent);
+  // What happens, one time in two, while the add-in lets pending work
+  // through in the middle of a loop: an item vanishes (perhaps one the loop
+  // is working on), one is made, or a message arrives on either channel.
+  // "" for nothing.
+  std::string Interruption();
   // Whether the host shuts the add-in down at this step (one step in 500).
   bool TearDownNow() { return Below(500) == 0; }
   // How many actions the user takes before the host restarts after a
@@ -37,6 +42,7 @@ class SoakActions {
   uint32_t Below(uint32_t n) { return static_cast<uint32_t>(random_() % n); }
   std::string Pick(std::initializer_list<const char*> choices);
   std::string Subject();
+  std::string NewItem();
   std::string Selection();
   std::string Fault();
 

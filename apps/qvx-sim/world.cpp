@@ -42,7 +42,10 @@ World::World() : folder_(MakeFolder()) {
   objects_ = std::make_unique<platform::PosixObjectFactory>(*system_);
   host_ = std::make_unique<sim::Outlook>();
   objects_->RegisterRunning("Outlook.Application", [this] { return host_->Application(); });
-  system_->SetDoEventsHook([this] { Pump(); });
+  system_->SetDoEventsHook([this] {
+    if (whileAddinPumps) whileAddinPumps();
+    Pump();
+  });
 }
 
 World::~World() {

@@ -9,6 +9,7 @@
 // listener window namespace, so scenarios can run side by side.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -68,6 +69,10 @@ class World {
   // Lets pending work through: queued host events and window messages.
   // Returns how many ran.
   size_t Pump();
+  // Runs, when set, each time the add-in itself lets pending work through
+  // (DoEvents), before that work runs: what happens to the user's world while
+  // the add-in is in the middle of a loop.
+  std::function<void()> whileAddinPumps;
   // Waits for the launched programs to end (before reading their journal).
   void WaitForPrograms() { system_->WaitForChildren(); }
   // Waits until the launched programs have ended and everything they posted
