@@ -5,7 +5,9 @@
 namespace qvx::sim {
 
 void FaultTable::Add(std::string_view member, Fault fault) {
-  faults_[FoldCase(member)].push_back(std::move(fault));
+  std::vector<Fault>& set = faults_[FoldCase(member)];
+  std::erase_if(set, [](const Fault& f) { return f.times == 0; });
+  set.push_back(std::move(fault));
 }
 
 void FaultTable::Clear(std::string_view member) {

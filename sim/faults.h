@@ -1,9 +1,9 @@
 // FaultTable: failures that a test tells a simulated object to raise.
 //
 // A fault is set per member (case-blind) and may be limited to one kind of
-// access and to the next N calls; a fault that has run out stays in the table
-// but no longer fires. Tables may be shared, so that every snapshot object of
-// one kind (each Selection an explorer hands out) sees the same faults.
+// access and to the next N calls; a fault that has run out no longer fires,
+// and goes when another is set on its member (a long run sets many). Tables may be shared, so that
+// every snapshot object of one kind (each Selection an explorer hands out) sees the same faults.
 //
 //   table.Add("Explorers", Fault{0x80004005, "boom"});
 //   table.Add("Save", Fault{13, "Type mismatch", kHostSource, 1});  // once

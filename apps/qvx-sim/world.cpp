@@ -144,9 +144,13 @@ void World::Finish() {
 void World::ForgetRecords() {
   ui_.ForgetShown();
   system_->ClearRecords();
+  objects_->ForgetRequests();
   boxesSeen = 0;
   formsSeen = 0;
   launchesSeen = 0;
+  if (scriptedRibbon_) scriptedRibbon_->ClearCalls();
+  if (ribbonHost_) ribbonHost_->ClearActions();
+  ribbonActionsSeen = 0;
 }
 
 void World::RestartHost() {

@@ -95,8 +95,9 @@ class World {
   // so their lines are matched in any order.
   std::vector<bool> journalTaken;
 
-  // Forgets the boxes, dialogs and launches recorded so far, and the
-  // expectations' places in them; what comes later is recorded as before.
+  // Forgets the boxes, dialogs, launches, objects asked for, and ribbon calls
+  // and actions recorded so far, and the expectations' places in them; what comes later
+  // is recorded as before.
   // For long runs that read each record once (the soak).
   void ForgetRecords();
 

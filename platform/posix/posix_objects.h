@@ -56,6 +56,10 @@ class PosixObjectFactory : public ObjectFactory {
   // Every ProgID asked of CreateObject and GetObject, in order, as given.
   const std::vector<std::string>& CreateRequests() const { return createRequests_; }
   const std::vector<std::string>& GetRequests() const { return getRequests_; }
+  void ForgetRequests() {
+    createRequests_.clear();
+    getRequests_.clear();
+  }
 
  private:
   SystemServices& system_;

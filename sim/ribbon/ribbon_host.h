@@ -82,6 +82,7 @@ class RibbonHost {
 
   // The action callbacks called for the user so far, oldest first.
   const std::vector<RibbonAction>& Actions() const { return actions_; }
+  void ClearActions() { actions_.clear(); }
 
  private:
   friend class RibbonWindow;
