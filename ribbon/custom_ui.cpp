@@ -9,6 +9,9 @@ namespace qvx {
 
 std::string IRibbonExtensibility_GetCustomUI(AddinState& s, std::string_view RibbonID) noexcept {
   std::string markup;
+  // Torn down, the add-in adds nothing to a window the host opens after it
+  // (the "Shutdown" command leaves the host running), and asks it nothing.
+  if (s.main.phase == AddinPhase::TornDown) return markup;
   IgnoreFailure(s.err, [&] {
     if (RibbonID == "Microsoft.Outlook.Task") {
       markup = fncBuildUI(s, "Task");

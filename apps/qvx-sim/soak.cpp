@@ -84,6 +84,7 @@ std::string SettingsWritten(World& world, const std::string& line,
 }
 
 constexpr char kHostVersion[] = "host version ";
+constexpr size_t kRecentShown = 60;
 
 bool TornDown(World& world) {
   return world.HasAddin() && world.addin().state().main.phase == AddinPhase::TornDown;
@@ -105,6 +106,12 @@ int RunSoak(const SoakOptions& options, const VerbTable& verbs, std::ostream& ou
     required.push_back(std::move(line));
   }
   SoakActions actions(random);
+  // The last statements run, printed when a promise breaks.
+  std::deque<std::string> recent;
+  const auto remember = [&recent](std::string line) {
+    if (recent.size() == kRecentShown) recent.pop_front();
+    recent.push_back(std::move(line));
+  };
   // Interruptions draw from their own stream, so that a seed's actions are the
   // same whatever the add-in's loops do.
   std::mt19937 interruptRandom(options.seed ^ 0x9E3779B9u);
@@ -117,6 +124,7 @@ int RunSoak(const SoakOptions& options, const VerbTable& verbs, std::ostream& ou
     const std::string line = interruptions.Interruption();
     if (line.empty()) return;
     ++interrupted;
+    remember("  (while the add-in pumped) " + line);
     bool notPossible = false;
     const std::string why = Run(world, verbs, line, false, notPossible);
     if (!why.empty() && interruptFailure.empty()) interruptFailure = line + ": " + why;
@@ -150,9 +158,12 @@ int RunSoak(const SoakOptions& options, const VerbTable& verbs, std::ostream& ou
       }
     }
     const auto broke = [&](const std::string& what) {
-      err << "soak " << options.seed << ", step " << step << ": " << line << "\n  " << what << "\n";
+      err << "soak " << options.seed << ", step " << step << ": " << line << "\n  " << what
+          << "\nthe statements before it, oldest first:\n";
+      for (const std::string& before : recent) err << before << "\n";
       return 1;
     };
+    remember(line);
     watch.BeforeStep();
     interrupting = !setting;
     bool notPossible = false;
