@@ -149,4 +149,14 @@ void Outlook::FailAt(std::string_view memberPath, int32_t number, std::string de
   Resolve(objectPath)->FailMember(member, number, std::move(description), times);
 }
 
+void Outlook::FailNextCallOnly(std::string_view memberPath, int32_t number,
+                               std::string description) {
+  std::string_view objectPath;
+  std::string_view member;
+  SplitLastMember(memberPath, objectPath, member);
+  const std::shared_ptr<SimObject> object = Resolve(objectPath);
+  object->faults().Clear(member);
+  object->FailMember(member, number, std::move(description), 1);
+}
+
 }  // namespace qvx::sim

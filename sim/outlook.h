@@ -141,6 +141,9 @@ class Outlook {
   // makes Selection of the active explorer fail.
   void FailAt(std::string_view memberPath, int32_t number, std::string description,
               int times = kAlways);
+  // The member's next call fails, and that one only: what was set on the
+  // member before goes, so that failures set often do not pile up.
+  void FailNextCallOnly(std::string_view memberPath, int32_t number, std::string description);
 
  private:
   std::shared_ptr<SimFolder> FolderOr(std::shared_ptr<SimFolder> folder, int32_t kind);

@@ -106,12 +106,12 @@ std::string SoakActions::Selection() {
   return line;
 }
 std::string SoakActions::Fault() {
-  return "host fail " +
+  return "host fail-once " +
          Pick({"ActiveExplorer.Selection", "ActiveExplorer.CurrentFolder", "ActiveExplorer",
                "ActiveInspector", "ActiveInspector.CurrentItem", "Explorers", "Inspectors",
                "Session", "Session.Categories", "ActiveExplorer.CommandBars",
                "Session.GetDefaultFolder(9).Items", "Session.GetDefaultFolder(13).Items"}) +
-         " " + Pick({"-2147467259", "-2147352567", "13", "91"}) + " soak 1";
+         " " + Pick({"-2147467259", "-2147352567", "13", "91"}) + " soak";
 }
 
 }  // namespace qvx::scenario

@@ -52,6 +52,17 @@ void RegisterHostVerbs(VerbTable& table) {
                 throw UsageError("no such object: " + a.At(0) + " (" + f.description() + ")");
               }
             });
+  table.Add("host fail-once", "host fail-once PATH NUMBER DESCRIPTION",
+            "the member's next call fails, and that one only: what host fail set on it before "
+            "goes",
+            [](World& w, const Args& a) {
+              a.Expect(3);
+              try {
+                w.host().FailNextCallOnly(a.At(0), a.Int(1), a.At(2));
+              } catch (const Failure& f) {
+                throw UsageError("no such object: " + a.At(0) + " (" + f.description() + ")");
+              }
+            });
   table.Add("host restart", "host restart",
             "the host exits and starts again: the add-in is shut down and loaded anew, "
             "temporary command bars are gone",

@@ -1,10 +1,12 @@
 // FakeObject beyond the Object contract: faults by kind of access, call
-// counts, shared fault tables and event binding.
+// counts, shared fault tables, faults that pile up or replace, and event
+// binding.
 #include <gtest/gtest.h>
 
 #include "sim/contract_subject.h"
 #include "sim/errors.h"
 #include "sim/fake_object.h"
+#include "sim/outlook.h"
 #include "unit/sim/sim_test_util.h"
 
 namespace qvx::sim {
@@ -41,6 +43,19 @@ TEST(SimObject, SharedFaultTablesApplyToEveryHolder) {
   b->ShareFaults(a->sharedFaults());
   a->FailMember("Name", 13, "Type mismatch");
   EXPECT_EQ(FailureOf([&] { b->AsObject().Get("Name"); }).number(), 13);
+}
+
+TEST(SimObject, CountedFaultsPileUpWhileAFaultOfTheNextCallOnlyReplaces) {
+  Outlook host;
+  const Object app = host.Application();
+  for (int i = 0; i < 3; ++i) host.FailAt("Version", 13, "once", 1);
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(FailureOf([&] { app.Get("Version"); }).number(), 13);
+  EXPECT_NO_THROW(app.Get("Version"));
+
+  host.FailAt("Version", 13, "always");
+  for (int i = 0; i < 3; ++i) host.FailNextCallOnly("Version", 91, "next");
+  EXPECT_EQ(FailureOf([&] { app.Get("Version"); }).number(), 91);
+  EXPECT_NO_THROW(app.Get("Version"));
 }
 
 TEST(SimObject, SubscribingToAnEventTheObjectLacksFails) {
