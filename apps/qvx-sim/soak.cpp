@@ -167,7 +167,10 @@ int RunSoak(const SoakOptions& options, const VerbTable& verbs, std::ostream& ou
     watch.BeforeStep();
     interrupting = !setting;
     bool notPossible = false;
-    if (const std::string why = Run(world, verbs, line, setting, notPossible); !why.empty()) {
+    if (line == kCloseExplorer && world.host().Explorers().size() < 2) {
+      notPossible = true;
+    } else if (const std::string why = Run(world, verbs, line, setting, notPossible);
+               !why.empty()) {
       return broke(why);
     }
     if (!interruptFailure.empty()) return broke("while the add-in pumped, " + interruptFailure);

@@ -6,7 +6,7 @@
 //
 // The actions are statements of the scenario language, drawn from SEED
 // (soak_actions.h): folder switches, selections, tagging from the bars and the
-// ribbon, reports, inspectors opening and closing, items vanishing, messages
+// ribbon, reports, explorers and inspectors opening and closing, items vanishing, messages
 // on both channels, the companion rewriting the settings, (FAULT-PERCENT of
 // the steps, 10 by default) a host member made to fail for its next call,
 // and now and then a tear-down, a few actions, and a restart with a fresh

@@ -63,12 +63,24 @@ std::string SoakActions::Next(int faultPercent) {
       return "registry set " + Pick({"ProjectTitle", "ActivityTitle", "ProjectMandatory"}) + " " +
              Pick({"Job", "-1", "0", "\"\""});
     default:
-      switch (Below(20)) {
+      switch (const uint32_t kind = Below(20)) {
         case 0:
           return "item delete " + Subject();
         case 1:
           // A new item, so that deletions do not empty the folders for good.
           return NewItem();
+        case 2:
+        case 3:
+        case 4: {
+          static constexpr const char* kFolders[] = {"calendar", "tasks", "inbox"};
+          return std::string("explorer open ") + kFolders[kind - 2];
+        }
+        case 5:
+        case 6:
+        case 7:
+        case 8:
+          // Closed more often than opened, so the windows do not pile up.
+          return kCloseExplorer;
         default:
           return "pump";
       }

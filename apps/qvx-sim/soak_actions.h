@@ -20,6 +20,10 @@ namespace qvx::scenario {
 // and the calendar open; ends with the add-in started.
 std::vector<std::string> SoakSetUp(std::mt19937& random);
 
+// The user closes the active explorer (the soak leaves the last one open:
+// closing it ends the host).
+inline constexpr char kCloseExplorer[] = "host close-explorer";
+
 class SoakActions {
  public:
   explicit SoakActions(std::mt19937& random) : random_(random) {}
