@@ -1,0 +1,59 @@
+#!/usr/bin/env bash
+# A long fuzzing campaign measured in processor time, not wall time: each
+# target runs niced (so it takes only what the machine leaves over) until it
+# has used CPU_SECONDS of processor time (ulimit -t ends it), two at a time on
+# the two cores. Its processor time is sampled every 10 s into
+# OUT/<target>.cpu, so a run that is killed still shows what it used.
+# Reaching the cap ends a target with exit 137 (killed), which is its normal
+# end here. Corpora and findings are kept in OUT/corpus and OUT/findings
+# across runs, so the hours of several runs add up.
+#
+#   tools/fuzz-long.sh CPU_SECONDS OUT [TARGET...]    # e.g. 3660 /work/fuzzing
+#
+# libFuzzer's -timeout is wall time; a niced run can wait behind other work,
+# hence 60 s, not the default. A finding stops that target; its input is in
+# OUT/findings/<target>/.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+run_one() {  # OUT CPU_SECONDS TARGET
+  local out=$1 secs=$2 target=$3
+  local corpus=$out/corpus/$target findings=$out/findings/$target
+  mkdir -p "$corpus" "$findings"
+  cp -n fuzz/corpus/"$target"/* "$corpus"/ 2>/dev/null || true
+  (
+    ulimit -t "$secs"
+    exec nice -n 19 build/fuzz/fuzz/"$target" -max_total_time=1000000 -timeout=60 \
+      -rss_limit_mb=2048 -artifact_prefix="$findings/" -print_final_stats=1 "$corpus"
+  ) >"$out/$target.log" 2>&1 &
+  local pid=$! tick
+  tick=$(getconf CLK_TCK)
+  echo "start $(date -u +%FT%TZ)" >"$out/$target.cpu"
+  while kill -0 "$pid" 2>/dev/null; do
+    local stat
+    if read -r -a stat <"/proc/$pid/stat" 2>/dev/null; then
+      echo "$(date -u +%FT%TZ) cpu_s $(((stat[13] + stat[14]) / tick))" >"$out/$target.cpu.now"
+    fi
+    sleep 10
+  done
+  local status=0
+  wait "$pid" || status=$?
+  { echo "end $(date -u +%FT%TZ) exit $status"; cat "$out/$target.cpu.now"; } >>"$out/$target.cpu"
+}
+
+if [[ $# -lt 2 ]]; then
+  echo "usage: tools/fuzz-long.sh CPU_SECONDS OUT [TARGET...]" >&2
+  exit 2
+fi
+secs=$1 out=$2
+shift 2
+targets=("$@")
+if [[ ${#targets[@]} -eq 0 ]]; then
+  targets=(fuzz_catalogue fuzz_keyed_list fuzz_registry_file fuzz_scenario_script
+           fuzz_variant_text fuzz_database_info)
+fi
+mkdir -p "$out"
+cmake --preset fuzz >/dev/null
+cmake --build --preset fuzz -j2 --target "${targets[@]}"
+export -f run_one
+printf '%s\n' "${targets[@]}" | xargs -P 2 -I{} bash -c 'run_one "$@"' _ "$out" "$secs" {}
