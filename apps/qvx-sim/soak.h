@@ -6,14 +6,13 @@
 //
 // The actions are statements of the scenario language, drawn from SEED
 // (soak_actions.h): folder switches, selections, tagging from the bars and the
-// ribbon, reports, explorers and inspectors opening and closing, items vanishing, messages
-// on both channels, the companion rewriting the settings, (FAULT-PERCENT of
-// the steps, 10 by default) a host member made to fail for its next call,
-// and now and then a tear-down, a few actions, and a restart with a fresh
-// add-in. While the add-in's own loops let pending work through, items vanish
-// or appear and messages arrive (half the time). An action that cannot be done
-// at that moment is skipped. After
-// each step (soak_watch.h):
+// ribbon, reports, explorers and inspectors opening and closing, items
+// vanishing, messages on both channels, the companion rewriting the settings,
+// (FAULT-PERCENT of the steps, 10 by default) a host member made to fail for
+// its next call, and now and then a tear-down, a few actions, and a restart
+// with a fresh add-in. While the add-in's own loops let pending work through,
+// items vanish or appear and messages arrive (half the time). An action that
+// cannot be done at that moment is skipped. After each step (soak_watch.h):
 //   - nothing but a scenario's own outcome came out of the add-in (any other
 //     exception crossed an entry point);
 //   - at most one error report has been shown in this add-in life;

@@ -22,6 +22,17 @@ std::shared_ptr<sim::SimFolder> FolderOf(World& w, const Args& a, size_t i) {
   }
 }
 
+// Sets a failure on the member at the path in the first argument; a path that
+// leads to no object is the script's mistake.
+template <typename SetFailure>
+void AtMemberPath(const Args& a, SetFailure set) {
+  try {
+    set();
+  } catch (const Failure& f) {
+    throw UsageError("no such object: " + a.At(0) + " (" + f.description() + ")");
+  }
+}
+
 }  // namespace
 
 void RegisterHostVerbs(VerbTable& table) {
@@ -46,22 +57,14 @@ void RegisterHostVerbs(VerbTable& table) {
             [](World& w, const Args& a) {
               a.Expect(3, 4);
               const int times = a.size() == 4 ? a.Int(3) : sim::kAlways;
-              try {
-                w.host().FailAt(a.At(0), a.Int(1), a.At(2), times);
-              } catch (const Failure& f) {
-                throw UsageError("no such object: " + a.At(0) + " (" + f.description() + ")");
-              }
+              AtMemberPath(a, [&] { w.host().FailAt(a.At(0), a.Int(1), a.At(2), times); });
             });
   table.Add("host fail-once", "host fail-once PATH NUMBER DESCRIPTION",
             "the member's next call fails, and that one only: what host fail set on it before "
             "goes",
             [](World& w, const Args& a) {
               a.Expect(3);
-              try {
-                w.host().FailNextCallOnly(a.At(0), a.Int(1), a.At(2));
-              } catch (const Failure& f) {
-                throw UsageError("no such object: " + a.At(0) + " (" + f.description() + ")");
-              }
+              AtMemberPath(a, [&] { w.host().FailNextCallOnly(a.At(0), a.Int(1), a.At(2)); });
             });
   table.Add("host restart", "host restart",
             "the host exits and starts again: the add-in is shut down and loaded anew, "

@@ -96,9 +96,9 @@ class World {
   std::vector<bool> journalTaken;
 
   // Forgets the boxes, dialogs, launches, objects asked for, and ribbon calls
-  // and actions recorded so far, and the expectations' places in them; what comes later
-  // is recorded as before.
-  // For long runs that read each record once (the soak).
+  // and actions recorded so far, and the expectations' places in them; what
+  // comes later is recorded as before. For long runs that read each record
+  // once (the soak).
   void ForgetRecords();
 
   // Where "say" and "show" write; the runner's output.
