@@ -73,7 +73,6 @@ WINE_TEST(ErrorReport, AHostThatCannotShowItsCalendarIsToldInAMessageBox) {
   // The start-up goes on after the box: the channel is open.
   CHECK(FindClientWindow() != nullptr);
   CHECK(session.world().Explorers().empty());
-  DeleteTree(kSettingsKey);
 }
 
 }  // namespace qvx::winetest

@@ -1,6 +1,8 @@
 // The All Project Fields dialog as a real Win32 dialog: it opens as a window
-// showing the item's values, refuses letters in the numeric fields key by
-// key, and closes by its buttons, Save writing the item, Cancel and Exit not.
+// showing the item's values and the model's enabled state, refuses letters in
+// the numeric fields key by key, and Save writes the item. Cancel, and a
+// reported item under DontAllowChangesToReportedItem, are the fields_dialog
+// scenarios'; the dialog's Esc and close box are FormDialog's.
 #include "platform/win32/win32_api.h"
 
 #include <string>
@@ -16,47 +18,19 @@
 #include "sim/user_properties.h"
 
 namespace qvx::winetest {
-namespace {
 
-constexpr int32_t kText = 1;  // olText
-
-void WriteFieldsSettings(const wchar_t* dontAllowChanges) {
+WINE_TEST(FieldsDialog, OpensAsAWindowAndSaveWritesWhatWasTyped) {
   WriteSettings({{L"DBChoice", L"1"},
                  {L"MyProjectsTasks", L"Alpha,5,,:Design,;Review,\r\nBeta,8,,:Build,"},
                  {L"CustomField9Active", L"-1"},
-                 {L"CustomField9Name", L"Hours"},
-                 {L"DontAllowChangesToReportedItem", dontAllowChanges}});
-}
-
-// frmFields loaded on one appointment with these text properties, its
-// caption marked so that the watcher leaves the dialog to the test.
-struct FieldsOnItem {
-  explicit FieldsOnItem(std::initializer_list<std::pair<const char*, const char*>> properties) {
-    for (const auto& [name, value] : properties) {
-      item->UserProperties().Set(name, kText, Variant(value));
-    }
-    form.LoadFields(item->AsObject());
-    CHECK_EQ(form.Caption(), std::string("All Project Fields"));
-    form.SetCaption("Test: " + form.Caption());
-  }
+                 {L"CustomField9Name", L"Hours"}});
   LocalAddin local;
-  std::shared_ptr<sim::SimAppointment> item =
-      local.host.AddAppointment("Planning", DateSerial(2026, 3, 2), DateSerial(2026, 3, 3));
+  auto item = local.host.AddAppointment("Planning", DateSerial(2026, 3, 2), DateSerial(2026, 3, 3));
+  item->UserProperties().Set("ProjectValue", 1, Variant("Alpha"));  // olText
   frmFields form{local.s};
-};
-
-std::string Property(sim::SimItem& item, std::string_view name) {
-  auto property = item.UserProperties().Find(name);
-  return property ? property->value().ToText() : std::string("(none)");
-}
-
-}  // namespace
-
-WINE_TEST(FieldsDialog, OpensAsAWindowAndSaveWritesWhatWasTyped) {
-  WriteFieldsSettings(L"0");
-  FieldsOnItem f({{"ProjectValue", "Alpha"}});
-  frmFields& form = f.form;
-  auto& item = f.item;
+  form.LoadFields(item->AsObject());
+  CHECK_EQ(form.Caption(), std::string("All Project Fields"));
+  form.SetCaption("Test: " + form.Caption());  // the watcher leaves it to the test
   const bool closedItself = ShowAndDrive(
       form, {[&](HWND dialog) {
                CHECK(TextOf(dialog) == L"Test: All Project Fields");
@@ -77,47 +51,14 @@ WINE_TEST(FieldsDialog, OpensAsAWindowAndSaveWritesWhatWasTyped) {
              }});
   CHECK(closedItself);
   CHECK(form.Unloaded());
-  CHECK_EQ(Property(*item, "Field9Value"), std::string("42"));
-  CHECK_EQ(Property(*item, "ProjectValue"), std::string("Alpha"));
-  CHECK(f.local.failures->empty());
+  const auto property = [&](std::string_view name) {
+    auto found = item->UserProperties().Find(name);
+    return found ? found->value().ToText() : std::string("(none)");
+  };
+  CHECK_EQ(property("Field9Value"), std::string("42"));
+  CHECK_EQ(property("ProjectValue"), std::string("Alpha"));
+  CHECK(local.failures->empty());
   CHECK(Watcher().Take().empty());
-  DeleteTree(kSettingsKey);
-}
-
-WINE_TEST(FieldsDialog, CancelClosesWithoutWriting) {
-  WriteFieldsSettings(L"0");
-  FieldsOnItem f({});
-  frmFields& form = f.form;
-  auto& item = f.item;
-  const bool closedItself = ShowAndDrive(
-      form, {[&](HWND dialog) {
-               HWND hours = ControlOf(dialog, form, "txtField9");
-               SetFocus(hours);
-               PostMessageW(hours, WM_CHAR, L'7', 0);
-             },
-             [&](HWND dialog) { PostClick(dialog, ControlOf(dialog, form, "cmdCancel")); }});
-  CHECK(closedItself);
-  CHECK_EQ(Property(*item, "Field9Value"), std::string("(none)"));
-  CHECK(f.local.failures->empty());
-  DeleteTree(kSettingsKey);
-}
-
-WINE_TEST(FieldsDialog, AReportedItemUnderTheFlagOnlyShowsAndExitCloses) {
-  WriteFieldsSettings(L"-1");
-  FieldsOnItem f({{"ReportedID", "4711"}});
-  frmFields& form = f.form;
-  auto& item = f.item;
-  const bool closedItself =
-      ShowAndDrive(form, {[&](HWND dialog) {
-                     CHECK(TextOf(ControlOf(dialog, form, "txtReportedID")) == L"4711");
-                     CHECK(!IsWindowEnabled(ControlOf(dialog, form, "cmdSave")));
-                     CHECK(!IsWindowEnabled(ControlOf(dialog, form, "cboProject")));
-                     CHECK(TextOf(ControlOf(dialog, form, "cmdCancel")) == L"E&xit");
-                     PostClick(dialog, ControlOf(dialog, form, "cmdCancel"));
-                   }});
-  CHECK(closedItself);
-  CHECK_EQ(Property(*item, "ProjectValue"), std::string("(none)"));
-  DeleteTree(kSettingsKey);
 }
 
 }  // namespace qvx::winetest

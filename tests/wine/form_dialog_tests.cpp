@@ -1,8 +1,8 @@
 // The Win32 view of a form model: the dialog shows the model's controls with
 // their texts in the system's dialog font and in the model's tab order;
-// Enter clicks the default button, Esc the cancel button; a key that a
-// KeyPress handler swallows never reaches the text box; the close box asks
-// QueryClose, which can keep the dialog open.
+// Enter clicks the default button, Esc the cancel button; the close box asks
+// QueryClose, which can keep the dialog open. A key that a KeyPress handler
+// swallows never reaches the text box: FieldsDialog shows it with the real form.
 //
 // The test drives the dialog from its own thread, as a user's input arrives:
 // each step runs on a thread timer, which the dialog's loop delivers only
@@ -37,10 +37,6 @@ struct FieldsForm {
   std::vector<int32_t> closeModes;
 
   FieldsForm() {
-    form.On("txtField9", "KeyPress", [](EventArgs& a) {
-      const int32_t key = a.at(0).ToLong();
-      if (key != 8 && (key < '0' || key > '9')) a[0] = Variant(int32_t{0});
-    });
     form.On("cboProject", "Click", [this](EventArgs&) { log.push_back("cboProject.Click"); });
     form.On("cmdSave", "Click", [this](EventArgs&) {
       log.push_back("save");
@@ -97,14 +93,6 @@ WINE_TEST(FormDialog, ShowsTheModelInTabOrderAndEnterClicksTheDefaultButton) {
          }
          CHECK_EQ(order, (std::vector<int>{1, 3, 4, 5}));
          CHECK(GetNextDlgTabItem(dialog, Item(dialog, 5), FALSE) == Item(dialog, 1));
-         // Keys typed into the digits-only box: the letter is swallowed.
-         SetFocus(Item(dialog, 3));
-         for (const wchar_t key : {L'4', L'x', L'2'})
-           PostMessageW(Item(dialog, 3), WM_CHAR, key, 0);
-       },
-       [&](HWND dialog) {
-         CHECK(TextOf(Item(dialog, 3)) == L"42");
-         CHECK_EQ(f.form.At("txtField9").text, std::string("42"));
          // The user chooses the first row of the combo box.
          SendMessageW(Item(dialog, 1), CB_SETCURSEL, 0, 0);
          PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(kFirstControlId + 1, CBN_SELCHANGE),
@@ -112,6 +100,7 @@ WINE_TEST(FormDialog, ShowsTheModelInTabOrderAndEnterClicksTheDefaultButton) {
        },
        [&](HWND dialog) {
          CHECK_EQ(f.form.At("cboProject").text, std::string("Alpha"));
+         SetFocus(Item(dialog, 3));
          PostMessageW(Item(dialog, 3), WM_KEYDOWN, VK_RETURN, 0);
        }});
   CHECK(closedItself);

@@ -19,7 +19,6 @@
 #include "harness/ui_watcher.h"
 #include "platform/win32/dispatch_face.h"
 #include "sim/explorer.h"
-#include "sim/fake_object.h"
 #include "sim/folder.h"
 #include "sim/item_classes.h"
 
@@ -46,15 +45,7 @@ constexpr Figure kRecorded[] = {
 }  // namespace
 
 WINE_TEST(HostCalls, NoUserActionCallsTheHostMoreThanItsRecordedFigure) {
-  WriteSettings({{L"DBChoice", L"1"},
-                 {L"DBConnectionString", L"DSN=Timesheets"},
-                 {L"AutoSyncToDB", L"-1"},
-                 {L"AllowAppointmentItems", L"-1"},
-                 {L"AllowTaskItems", L"-1"},
-                 {L"showProjectTaskToolbar", L"-1"},
-                 {L"showCustomFieldsToolbar", L"-1"},
-                 {L"MyProjectsTasks",
-                  L"Alpha,5,2026-3-2,2026-6-30:Design,2026-4-15;Review,\r\nBeta,8,,:Build,"}});
+  WriteConfiguredUser(L"Alpha,5,2026-3-2,2026-6-30:Design,2026-4-15;Review,\r\nBeta,8,,:Build,");
   ClearJournal();
   AddinSession session;
   sim::Outlook& world = session.world();
@@ -67,9 +58,7 @@ WINE_TEST(HostCalls, NoUserActionCallsTheHostMoreThanItsRecordedFigure) {
     }
   }
   DllRibbonAddin ribbon(session);
-  auto ribbonUi = std::make_shared<sim::FakeObject>("IRibbonUI");
-  ribbonUi->Method("Invalidate", 0, 0, [](sim::Args&) { return Variant(); });
-  ribbonUi->Method("InvalidateControl", 1, 1, [](sim::Args&) { return Variant(); });
+  auto ribbonUi = FakeRibbonUi();
   const auto act = [&](const char* callback, std::vector<Variant> args) {
     Variant none;
     CHECK(ribbon.Call(callback, args, none) == CallbackOutcome::Done);
@@ -94,13 +83,17 @@ WINE_TEST(HostCalls, NoUserActionCallsTheHostMoreThanItsRecordedFigure) {
     REQUIRE(listener != nullptr);
     SendMessageW(listener, RegisterWindowMessageW(L"ZNB_QVX_Client"), 2, 0);
     PumpOnce();
-    CHECK_EQ(ribbon.Rows(RibbonControl("cboProjectCal", context)).size(), size_t{3});
+    CHECK_EQ(ribbon.Rows(RibbonControl("cboProjectCal", context)),
+             (std::vector<std::string>{"Alpha", "Beta", ""}));
     ribbon.Rows(RibbonControl("cboTaskCal", context));  // no project yet: the empty row
   });
   count(kRecorded[4].action, [&] {
     act("OnActionDropDown",
         {Variant(RibbonControl("cboProjectCal", context)), Variant(""), Variant(int32_t{0})});
   });
+  CHECK(ribbonUi->CallCount("InvalidateControl") + ribbonUi->CallCount("Invalidate") > 0);
+  CHECK_EQ(ribbon.Rows(RibbonControl("cboTaskCal", context)),
+           (std::vector<std::string>{"Design", "Review", ""}));
   count(kRecorded[5].action, [&] {
     act("OnActionDropDown",
         {Variant(RibbonControl("cboTaskCal", context)), Variant(""), Variant(int32_t{0})});
@@ -114,6 +107,8 @@ WINE_TEST(HostCalls, NoUserActionCallsTheHostMoreThanItsRecordedFigure) {
   const Object tagged = items.back()->AsObject().Get("UserProperties").ToObject();
   CHECK_EQ(tagged.Call("Find", {Variant("ProjectValue")}).ToObject().Get("Value").ToText(),
            std::string("Alpha"));
+  CHECK_EQ(tagged.Call("Find", {Variant("ActivityValue")}).ToObject().Get("Value").ToText(),
+           std::string("Design"));
 
   for (size_t i = 0; i < measured.size(); ++i) {
     const Figure& now = measured[i];
@@ -125,7 +120,6 @@ WINE_TEST(HostCalls, NoUserActionCallsTheHostMoreThanItsRecordedFigure) {
     CHECK(now.nameLookups <= recorded.nameLookups);
     CHECK(now.typeInfos <= recorded.typeInfos);
   }
-  DeleteTree(kSettingsKey);
 }
 
 }  // namespace qvx::winetest

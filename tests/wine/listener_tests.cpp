@@ -1,6 +1,6 @@
 // The companion's way back: a hidden top-level window with the caption the
 // companion looks for, and the registered messages it posts there from its
-// own process.
+// own process. What each value does is the listener_values scenario's.
 #include <windows.h>
 
 #include <string>
@@ -15,15 +15,26 @@
 #include "sim/explorer.h"
 
 namespace qvx::winetest {
+namespace {
 
-WINE_TEST(Listener, IsAHiddenTopLevelWindowOfTheHostThread) {
-  WriteSettings({{L"DBChoice", L"1"}, {L"DBConnectionString", L""}});
+// A configured user with no section to start, the journal empty.
+struct ConfiguredSession {
+  bool prepared =
+      (WriteSettings({{L"DBChoice", L"1"}, {L"DBConnectionString", L""}}), ClearJournal(), true);
   AddinSession session;
+};
+
+}  // namespace
+
+// The window comes with the heavy stage, not on connection, and goes when
+// closing the last explorer tears the add-in down from inside its own
+// client's Close handler.
+WINE_TEST(Listener, IsAHiddenTopLevelWindowOfTheHostThreadUntilTheLastExplorerCloses) {
+  ConfiguredSession c;
   CHECK(FindClientWindow() == nullptr);
-  REQUIRE_EQ(session.Connect(), S_OK);
-  // The channel opens with the heavy stage, not on connection.
+  REQUIRE_EQ(c.session.Connect(), S_OK);
   CHECK(FindClientWindow() == nullptr);
-  REQUIRE_EQ(session.StartupComplete(), S_OK);
+  REQUIRE_EQ(c.session.StartupComplete(), S_OK);
 
   HWND window = FindClientWindow();
   REQUIRE(window != nullptr);
@@ -32,69 +43,25 @@ WINE_TEST(Listener, IsAHiddenTopLevelWindowOfTheHostThread) {
   DWORD process = 0;
   CHECK_EQ(GetWindowThreadProcessId(window, &process), GetCurrentThreadId());
   CHECK_EQ(process, GetCurrentProcessId());
-  // Messages that are not the add-in's go on to the window's own procedure.
-  wchar_t caption[64] = {};
-  GetWindowTextW(window, caption, 64);
-  CHECK_EQ(std::wstring(caption), std::wstring(L"Client Window - Quorvix Client for Outlook"));
-}
 
-WINE_TEST(Listener, ClientMessagesFromAnotherProcessReachTheAddin) {
-  WriteSettings({{L"DBChoice", L"1"}, {L"DBConnectionString", L""}});
-  ClearJournal();
-  AddinSession session;
-  session.Start();
-  REQUIRE(FinishedLaunches().empty());
-  auto application = session.At("");
-  int reads = application->CallCount("ActiveWindow");
-  // 3 means nothing: it is only kept. 1 runs the unattended synchronisation,
-  // section 28, even while one runs. The messages are handled in order.
-  for (const int value : {3, 1, 1}) CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", value), 0u);
-  CHECK(PumpUntil([] { return JournalLines() >= 2; }));
-  CHECK_EQ(application->CallCount("ActiveWindow"), reads);
-  // 2 (items changed) and 0 (settings changed, read again) refresh the
-  // toolbars, which asks the host for its active window.
-  for (const int value : {2, 0}) {
-    CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", value), 0u);
-    if (!CHECK(PumpUntil([&] { return application->CallCount("ActiveWindow") > reads; }))) {
-      Note("message " + std::to_string(value));
-    }
-    reads = application->CallCount("ActiveWindow");
-  }
-  CHECK_EQ(FinishedLaunches(), (std::vector<std::string>{"28", "28"}));
+  auto explorer = c.session.world().ActiveExplorer();
+  REQUIRE(explorer != nullptr);
+  c.session.world().Close(*explorer);
+  CHECK(PumpUntil([] { return FindClientWindow() == nullptr; }));
   CHECK(Watcher().Take().empty());
-  DeleteTree(kSettingsKey);
-}
-
-// The companion writes settings with the registry API from its own process,
-// then says so: the add-in's next decision (the projects' colours) shows
-// the new values.
-WINE_TEST(Listener, SettingsWrittenOutsideAreReadWhenTheClientSaysSo) {
-  WriteSettings({{L"DBChoice", L"1"}, {L"DBConnectionString", L""}});
-  ClearJournal();
-  AddinSession session;
-  session.Start();
-  CHECK(session.world().FindCategory("Alpha") == nullptr);
-  CHECK_EQ(
-      PostFromAnotherProcess(L"ZNB_QVX_Client", 0,
-                             {L"AddProjectColorCodes=-1", L"MyProjectsTasks=Alpha,5,,:Design,"}),
-      0u);
-  CHECK(PumpUntil([&] { return session.world().FindCategory("Alpha") != nullptr; }));
-  if (auto alpha = session.world().FindCategory("Alpha")) CHECK_EQ(alpha->color(), 5);
-  CHECK(FinishedLaunches().empty());
-  CHECK(Watcher().Take().empty());
-  DeleteTree(kSettingsKey);
 }
 
 // Ten thousand messages that are not the add-in's, and values that mean
 // nothing, go by; the window stays, passes foreign messages on unchanged to
-// its own procedure, and the channel still works.
-WINE_TEST(Listener, ABurstOfForeignMessagesAndUnknownValuesLeavesItWorking) {
-  WriteSettings({{L"DBChoice", L"1"}, {L"DBConnectionString", L""}});
-  ClearJournal();
-  AddinSession session;
-  session.Start();
+// its own procedure, and the companion's 1 from another process still runs
+// the unattended synchronisation, section 28, even while one runs.
+WINE_TEST(Listener, ClientMessagesFromAnotherProcessReachTheAddinPastABurstOfForeignOnes) {
+  ConfiguredSession c;
+  c.session.Start();
   HWND window = FindClientWindow();
   REQUIRE(window != nullptr);
+  auto application = c.session.At("");
+  const int reads = application->CallCount("ActiveWindow");
   for (int i = 0; i < 10000; ++i) {
     PostMessageW(window, WM_USER + (i % 512), static_cast<WPARAM>(i), static_cast<LPARAM>(-i));
     if (i % 1000 == 999) PumpOnce();  // a thread's queue holds 10,000 at most
@@ -106,9 +73,9 @@ WINE_TEST(Listener, ABurstOfForeignMessagesAndUnknownValuesLeavesItWorking) {
     CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Manager", value), 0u);
   }
   PumpOnce();
-  CHECK(IsWindow(window));
   CHECK(FindClientWindow() == window);
   CHECK(FinishedLaunches().empty());
+  CHECK_EQ(application->CallCount("ActiveWindow"), reads);  // no bar was refreshed
   // A foreign message reaches the window's own procedure with its lParam.
   const wchar_t probe[] = L"probe";
   SendMessageW(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(probe));
@@ -116,26 +83,27 @@ WINE_TEST(Listener, ABurstOfForeignMessagesAndUnknownValuesLeavesItWorking) {
   GetWindowTextW(window, caption, 64);
   CHECK(std::wstring(caption) == L"probe");
   SetWindowTextW(window, L"Client Window - Quorvix Client for Outlook");
-  CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 1), 0u);
-  CHECK(PumpUntil([] { return JournalLines() >= 1; }));
-  CHECK_EQ(FinishedLaunches(), std::vector<std::string>{"28"});
+  for (const int value : {1, 1}) CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", value), 0u);
+  CHECK(PumpUntil([] { return JournalLines() >= 2; }));
+  CHECK_EQ(FinishedLaunches(), (std::vector<std::string>{"28", "28"}));
   CHECK(Watcher().Take().empty());
-  DeleteTree(kSettingsKey);
 }
 
-// Closing the last explorer tears the add-in down from inside its own
-// client's Close handler: the window and its subclass are gone.
-WINE_TEST(Listener, ClosingTheLastExplorerTakesTheWindowAway) {
-  WriteSettings({{L"DBChoice", L"1"}, {L"DBConnectionString", L""}});
-  AddinSession session;
-  session.Start();
-  REQUIRE(FindClientWindow() != nullptr);
-  auto explorer = session.world().ActiveExplorer();
-  REQUIRE(explorer != nullptr);
-  session.world().Close(*explorer);
-  CHECK(PumpUntil([] { return FindClientWindow() == nullptr; }));
+// The companion writes settings with the registry API from its own process,
+// then says so: the add-in's next decision (the projects' colours) shows
+// the new values.
+WINE_TEST(Listener, SettingsWrittenOutsideAreReadWhenTheClientSaysSo) {
+  ConfiguredSession c;
+  c.session.Start();
+  CHECK(c.session.world().FindCategory("Alpha") == nullptr);
+  CHECK_EQ(
+      PostFromAnotherProcess(L"ZNB_QVX_Client", 0,
+                             {L"AddProjectColorCodes=-1", L"MyProjectsTasks=Alpha,5,,:Design,"}),
+      0u);
+  CHECK(PumpUntil([&] { return c.session.world().FindCategory("Alpha") != nullptr; }));
+  if (auto alpha = c.session.world().FindCategory("Alpha")) CHECK_EQ(alpha->color(), 5);
+  CHECK(FinishedLaunches().empty());
   CHECK(Watcher().Take().empty());
-  DeleteTree(kSettingsKey);
 }
 
 }  // namespace qvx::winetest

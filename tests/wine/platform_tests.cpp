@@ -1,11 +1,12 @@
-// The platform seams on Windows: resources compiled into a module by windres
-// and found by type, name and language; pictures handed out as IPictureDisp;
+// The platform seams on Windows: the DLL's resources, compiled by windres and
+// found by type, name and language; pictures handed out as IPictureDisp;
 // a read of HKEY_LOCAL_MACHINE with the about box's access; the settings
 // store's read of a value.
 #include <windows.h>
 
 #include <olectl.h>
 
+#include <cctype>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -25,26 +26,11 @@ namespace {
 
 using platform::kLanguageEnglishUs;
 
-// The sample documents are compiled into this test program (tests/wine/CMakeLists.txt).
 std::string FileText(const std::filesystem::path& path) {
   std::ifstream in(path, std::ios::binary);
   std::ostringstream out;
   out << in.rdbuf();
   return out.str();
-}
-
-std::string SampleFile() {
-  return FileText(QVX_TEST_RESOURCES_DIR "/sample/LINES_(CRLF).xml");
-}
-
-// The bytes of a resource as the system's own look-up finds them.
-std::optional<std::string> FoundInModule(HMODULE module, const std::wstring& type,
-                                         const std::wstring& name, WORD language) {
-  const HRSRC found = FindResourceExW(module, type.c_str(), name.c_str(), language);
-  const HGLOBAL loaded = found != nullptr ? LoadResource(module, found) : nullptr;
-  const void* bytes = loaded != nullptr ? LockResource(loaded) : nullptr;
-  if (bytes == nullptr) return std::nullopt;
-  return std::string(static_cast<const char*>(bytes), SizeofResource(module, found));
 }
 
 BOOL CALLBACK CountName(HMODULE, LPCWSTR, LPWSTR, LONG_PTR count) {
@@ -72,45 +58,38 @@ constexpr const wchar_t kTestKeyW[] = L"SOFTWARE\\Quorvix Wine Tests\\MSINFO";
 
 }  // namespace
 
-WINE_TEST(Resources, ATextResourceIsFoundByTypeNameAndLanguage) {
-  win32::Win32Resources resources(GetModuleHandleW(nullptr));
-  const std::string file = SampleFile();
-  REQUIRE(!file.empty());
-  CHECK_EQ(resources.FindData("QVX_SAMPLE", "LINES_(CRLF)", kLanguageEnglishUs),
-           std::optional<std::string>(file));
-  CHECK_EQ(resources.FindData("qvx_sample", "Lines_(crlf)", kLanguageEnglishUs),
-           std::optional<std::string>(file));
-  CHECK(!resources.FindData("QVX_SAMPLE", "LINES_(CRLF)", 1031));
-  CHECK(!resources.FindData("VIEWS_TASK", "LINES_(CRLF)", kLanguageEnglishUs));
-  CHECK(!resources.FindData("QVX_SAMPLE", "LINES", kLanguageEnglishUs));
-  CHECK_EQ(RaisedNumber([&] { platform::LoadResData(resources, "QVX_SAMPLE", "LINES"); }), 326);
-}
-
 // Every view document is in the DLL under its type, its upper-cased file
-// name (parentheses and all) and language 1033, byte for byte.
+// name (parentheses and all) and language 1033, byte for byte, and found so
+// in any case; another language, type or name finds nothing.
 WINE_TEST(Resources, TheDllHoldsEveryViewDocument) {
   const HMODULE dll = GetModuleHandleW(Dll().path.c_str());
   REQUIRE(dll != nullptr);
+  win32::Win32Resources resources(dll);
   for (const auto& [folder, type] :
-       {std::pair{"appointment", L"VIEWS_APPOINTMENT"}, std::pair{"task", L"VIEWS_TASK"}}) {
+       {std::pair{"appointment", "VIEWS_APPOINTMENT"}, std::pair{"task", "VIEWS_TASK"}}) {
     int files = 0;
     for (const auto& entry :
          std::filesystem::directory_iterator(std::string(QVX_VIEW_DOCUMENTS_DIR "/") + folder)) {
       if (entry.path().extension() != ".xml") continue;
-      std::wstring name = entry.path().stem().wstring();
-      for (wchar_t& c : name) c = towupper(c);
+      std::string name = entry.path().stem().string();
+      for (char& c : name) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
       Note(std::string(folder) + "/" + entry.path().filename().string());
-      CHECK_EQ(FoundInModule(dll, type, name, kLanguageEnglishUs),
+      CHECK_EQ(resources.FindData(type, name, kLanguageEnglishUs),
                std::optional<std::string>(FileText(entry.path())));
       ++files;
     }
     CHECK_EQ(files, 14);
     int names = 0;
-    EnumResourceNamesW(dll, type, CountName, reinterpret_cast<LONG_PTR>(&names));
+    const std::wstring wideType(type, type + std::strlen(type));
+    EnumResourceNamesW(dll, wideType.c_str(), CountName, reinterpret_cast<LONG_PTR>(&names));
     CHECK_EQ(names, 14);
   }
-  CHECK(FoundInModule(dll, L"VIEWS_TASK", L"REPORTED_DATE_(FILTERED)", kLanguageEnglishUs));
-  CHECK(!FoundInModule(dll, L"VIEWS_TASK", L"REPORTED_DATE_(FILTERED)", 1031));
+  const std::string name = "REPORTED_DATE_(FILTERED)";
+  CHECK(resources.FindData("views_task", "Reported_Date_(filtered)", kLanguageEnglishUs));
+  CHECK(!resources.FindData("VIEWS_TASK", name, 1031));
+  CHECK(!resources.FindData("VIEWS_APPOINTMENT", "NO_SUCH_VIEW", kLanguageEnglishUs));
+  CHECK(!resources.FindData("QVX_SAMPLE", name, kLanguageEnglishUs));
+  CHECK_EQ(RaisedNumber([&] { platform::LoadResData(resources, "VIEWS_TASK", "NONE"); }), 326);
 }
 
 WINE_TEST(Resources, TheDllsPicturesComeAsIPictureDisp) {

@@ -9,26 +9,13 @@
 #include "harness/addin_session.h"
 #include "harness/check.h"
 #include "harness/companion_journal.h"
+#include "harness/dll_ribbon_addin.h"
 #include "harness/registry_keys.h"
 #include "harness/ui_watcher.h"
 #include "platform/win32/dispatch_face.h"
-#include "sim/fake_object.h"
 
 namespace qvx::winetest {
 namespace {
-
-HRESULT IdOf(IDispatch* dispatch, std::wstring name, DISPID& id) {
-  LPOLESTR names[] = {name.data()};
-  return dispatch->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
-}
-
-HRESULT Call(IDispatch* dispatch, DISPID id, std::vector<VARIANT> argsLastFirst,
-             EXCEPINFO* info = nullptr) {
-  DISPPARAMS params{argsLastFirst.data(), nullptr, static_cast<UINT>(argsLastFirst.size()), 0};
-  UINT argError = 0;
-  return dispatch->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, nullptr,
-                          info, &argError);
-}
 
 VARIANT Arg(VARTYPE type, IDispatch* object = nullptr) {
   VARIANT v{};
@@ -43,36 +30,38 @@ WINE_TEST(RibbonDispatch, BadNamesPointersAndArgumentsGiveErrors) {
   AddinSession session;
   ComPtr<IDispatch> dispatch = session.Dispatch();
   REQUIRE(dispatch);
+  IDispatch* d = dispatch.get();
   DISPID id = 0;
-  CHECK_EQ(IdOf(dispatch.get(), L"NoSuchCallback", id), DISP_E_UNKNOWNNAME);
-  CHECK_EQ(id, DISPID_UNKNOWN);
-  CHECK_EQ(Call(dispatch.get(), 424242, {Arg(VT_I4)}), DISP_E_MEMBERNOTFOUND);
   std::wstring name = L"OnLoad";
   LPOLESTR names[] = {name.data()};
   LPOLESTR noName[] = {nullptr};
-  CHECK_EQ(dispatch->GetIDsOfNames(IID_NULL, nullptr, 1, 0, &id), E_POINTER);
-  CHECK_EQ(dispatch->GetIDsOfNames(IID_NULL, names, 1, 0, nullptr), E_POINTER);
-  CHECK_EQ(dispatch->GetIDsOfNames(IID_NULL, noName, 1, 0, &id), E_POINTER);
-  CHECK_EQ(dispatch->GetIDsOfNames(IID_IDispatch, names, 1, 0, &id), DISP_E_UNKNOWNINTERFACE);
-  CHECK_EQ(dispatch->Invoke(1000, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr),
+  LPOLESTR unknown[] = {const_cast<LPOLESTR>(L"NoSuchCallback")};
+  CHECK_EQ(d->GetIDsOfNames(IID_NULL, unknown, 1, 0, &id), DISP_E_UNKNOWNNAME);
+  CHECK_EQ(id, DISPID_UNKNOWN);
+  VARIANT number = Arg(VT_I4);
+  DISPPARAMS params{&number, nullptr, 1, 0};
+  UINT argError = 0;
+  CHECK_EQ(d->Invoke(424242, IID_NULL, 0, DISPATCH_METHOD, &params, nullptr, nullptr, &argError),
+           DISP_E_MEMBERNOTFOUND);
+  CHECK_EQ(d->Invoke(1000, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr),
            E_POINTER);
-  CHECK_EQ(dispatch->GetTypeInfoCount(nullptr), E_POINTER);
+  CHECK_EQ(d->GetIDsOfNames(IID_NULL, nullptr, 1, 0, &id), E_POINTER);
+  CHECK_EQ(d->GetIDsOfNames(IID_NULL, names, 1, 0, nullptr), E_POINTER);
+  CHECK_EQ(d->GetIDsOfNames(IID_NULL, noName, 1, 0, &id), E_POINTER);
+  CHECK_EQ(d->GetIDsOfNames(IID_IDispatch, names, 1, 0, &id), DISP_E_UNKNOWNINTERFACE);
+  CHECK_EQ(d->GetTypeInfoCount(nullptr), E_POINTER);
   UINT count = 7;
-  CHECK_EQ(dispatch->GetTypeInfoCount(&count), S_OK);
+  CHECK_EQ(d->GetTypeInfoCount(&count), S_OK);
   CHECK_EQ(count, 0u);
-  CHECK_EQ(dispatch->GetTypeInfo(0, 0, nullptr), E_POINTER);
+  CHECK_EQ(d->GetTypeInfo(0, 0, nullptr), E_POINTER);
 
   // OnLoad by any casing, with too few or too many arguments or one of the wrong type.
-  DISPID onLoad = 0;
-  REQUIRE_EQ(IdOf(dispatch.get(), L"OnLoad", onLoad), S_OK);
   for (const wchar_t* casing : {L"onload", L"ONLOAD", L"oNlOaD"}) {
-    CHECK_EQ(IdOf(dispatch.get(), casing, id), S_OK);
-    CHECK_EQ(id, onLoad);
+    CHECK_EQ(InvokeByName(d, casing, {}), DISP_E_BADPARAMCOUNT);
   }
-  CHECK_EQ(Call(dispatch.get(), onLoad, {}), DISP_E_BADPARAMCOUNT);
-  CHECK_EQ(Call(dispatch.get(), onLoad, {Arg(VT_DISPATCH)}), E_INVALIDARG);  // a null object
-  CHECK_EQ(Call(dispatch.get(), onLoad, {Arg(VT_I4), Arg(VT_I4)}), DISP_E_BADPARAMCOUNT);
-  CHECK_EQ(Call(dispatch.get(), onLoad, {Arg(VT_RECORD)}), DISP_E_TYPEMISMATCH);
+  CHECK_EQ(InvokeByName(d, name, {Arg(VT_DISPATCH)}), E_INVALIDARG);  // a null object
+  CHECK_EQ(InvokeByName(d, name, {Arg(VT_I4), Arg(VT_I4)}), DISP_E_BADPARAMCOUNT);
+  CHECK_EQ(InvokeByName(d, name, {Arg(VT_RECORD)}), DISP_E_TYPEMISMATCH);
 
   com::IDTExtensibility2* addin = session.addin();
   CHECK_EQ(addin->OnConnection(nullptr, com::ext_cm_Startup, nullptr, nullptr), E_POINTER);
@@ -91,22 +80,15 @@ WINE_TEST(RibbonDispatch, OnLoadHandsTheRibbonToTheAddin) {
   WriteSettings({{L"DBChoice", L"1"}});
   AddinSession session;
   session.Start();
-  ComPtr<IDispatch> dispatch = session.Dispatch();
-  REQUIRE(dispatch);
-  DISPID onLoad = 0;
-  REQUIRE_EQ(IdOf(dispatch.get(), L"oNlOaD", onLoad), S_OK);
-
   // Office's IRibbonUI, as a late-bound object of the host.
-  auto ribbonUi = std::make_shared<sim::FakeObject>("IRibbonUI");
-  ribbonUi->Method("Invalidate", 0, 0, [](sim::Args&) { return Variant(); });
+  auto ribbonUi = FakeRibbonUi();
   ComPtr<IDispatch> face = win32::MakeDispatchFace(ribbonUi);
-  CHECK_EQ(Call(dispatch.get(), onLoad, {Arg(VT_DISPATCH, face.get())}), S_OK);
+  CHECK_EQ(InvokeByName(session.Dispatch().get(), L"oNlOaD", {Arg(VT_DISPATCH, face.get())}), S_OK);
 
   // The manager's "settings changed" makes the add-in invalidate its ribbon.
   CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Manager", 0), 0u);
   CHECK(PumpUntil([&] { return ribbonUi->CallCount("Invalidate") >= 1; }));
   CHECK(Watcher().Take().empty());
-  DeleteTree(kSettingsKey);
 }
 
 // A callback that fails without a trap of its own answers with the failure in
@@ -114,15 +96,12 @@ WINE_TEST(RibbonDispatch, OnLoadHandsTheRibbonToTheAddin) {
 // nothing itself.
 WINE_TEST(RibbonDispatch, AnUntrappedFailureAnswersWithItsException) {
   AddinSession session;
-  ComPtr<IDispatch> dispatch = session.Dispatch();
-  REQUIRE(dispatch);
-  DISPID onLoad = 0;
-  REQUIRE_EQ(IdOf(dispatch.get(), L"OnLoad", onLoad), S_OK);
   win32::Bstr notARibbon(L"not a ribbon");
   VARIANT text = Arg(VT_BSTR);
   text.bstrVal = notARibbon.get();
   EXCEPINFO info{};
-  CHECK_EQ(Call(dispatch.get(), onLoad, {text}, &info), DISP_E_EXCEPTION);
+  CHECK_EQ(InvokeByName(session.Dispatch().get(), L"OnLoad", {text}, nullptr, &info),
+           DISP_E_EXCEPTION);
   CHECK_EQ(info.wCode, 424);
   CHECK(info.bstrDescription != nullptr && SysStringLen(info.bstrDescription) > 0);
   SysFreeString(info.bstrSource);
@@ -146,7 +125,6 @@ WINE_TEST(RibbonDispatch, TheAboutTaskOpensTheAboutBox) {
   CHECK(seen[0].Shows(L"Build 1."));
   CHECK(seen[0].Shows(L"Client Tool"));
   CHECK_EQ(seen[0].pictures, 1);
-  DeleteTree(kSettingsKey);
 }
 
 }  // namespace qvx::winetest

@@ -1,9 +1,7 @@
 // OnConnection and OnStartupComplete: the settings as the companion left
-// them in the registry decide which companion sections start, and the add-in
-// finds its way around the host by name and by events.
+// them in the registry decide which companion sections start.
 #include <windows.h>
 
-#include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
@@ -54,28 +52,6 @@ WINE_TEST(Startup, TheSettingsDecideWhichSectionsStart) {
     if (!CHECK_EQ(FinishedLaunches(), c.sections)) Note(c.what);
     if (!CHECK(Watcher().Take().empty())) Note(c.what);
   }
-}
-
-WINE_TEST(Startup, ReachesTheHostByNameAndFollowsItsEvents) {
-  WriteSettings({{L"DBChoice", L"1"}, {L"DBConnectionString", L""}});
-  AddinSession session;
-  session.Start();
-  auto application = session.At("");
-  CHECK(application->CallCount("GetNamespace") >= 1);
-  CHECK(application->CallCount("ActiveExplorer") >= 1);
-  // The mail library is no registered class here: the add-in asks the host.
-  const auto& asked = session.createRequests();
-  CHECK(std::find(asked.begin(), asked.end(), "ZNBLib.ZNBMAPIUtils") != asked.end());
-
-  // Events through connection points: the NewExplorer handler counts the explorers.
-  auto explorers = session.At("Explorers");
-  CHECK_EQ(explorers->HandlerCount("NewExplorer"), size_t{1});
-  CHECK_EQ(session.At("Inspectors")->HandlerCount("NewInspector"), size_t{1});
-  const int before = explorers->CallCount("Count");
-  session.world().OpenExplorer(session.world().Tasks());
-  CHECK(explorers->CallCount("Count") > before);
-  CHECK(Watcher().Take().empty());
-  DeleteTree(kSettingsKey);
 }
 
 }  // namespace qvx::winetest

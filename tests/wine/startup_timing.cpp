@@ -96,14 +96,7 @@ int TimeStartup(size_t projects, int count) {
   // Automatic synchronisation on: start-up complete starts the companion.
   // Off: the same configured user and catalogue, and no process is created.
   for (const wchar_t* autoSync : {L"-1", L"0"}) {
-    WriteSettings({{L"DBChoice", L"1"},
-                   {L"DBConnectionString", L"DSN=Timesheets"},
-                   {L"AutoSyncToDB", autoSync},
-                   {L"AllowAppointmentItems", L"-1"},
-                   {L"AllowTaskItems", L"-1"},
-                   {L"showProjectTaskToolbar", L"-1"},
-                   {L"showCustomFieldsToolbar", L"-1"},
-                   {L"MyProjectsTasks", win32::Wide(catalogue)}});
+    WriteConfiguredUser(win32::Wide(catalogue), autoSync);
     TimeSeries(autoSync[0] == L'-' ? "with the companion started (automatic synchronisation):"
                                    : "without a companion (no automatic synchronisation):",
                count, failures);

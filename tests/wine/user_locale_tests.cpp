@@ -2,54 +2,32 @@
 // legacy runtime: the companion writes LastReported in it, and parses the
 // start of a recurring occurrence in it. Each test runs in a second test host
 // under its locale (harness/user_locale.h), with the add-in's logic in that
-// process over the Windows platform and a simulated host.
+// process (harness/local_addin.h).
 #include "platform/win32/win32_api.h"
 
 #include <cmath>
-#include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "core/dates.h"
 #include "core/failure.h"
 #include "harness/check.h"
 #include "harness/companion_journal.h"
+#include "harness/local_addin.h"
 #include "harness/registry_keys.h"
 #include "harness/ui_watcher.h"
 #include "harness/user_locale.h"
-#include "platform/win32/win32_platform.h"
 #include "reporting/report_items.h"
 #include "settings/my_settings.h"
 #include "sim/appointment.h"
-#include "sim/outlook.h"
-#include "state/addin_state.h"
 
 namespace qvx::winetest {
 namespace {
-
-using Settings = std::vector<std::pair<std::wstring, std::wstring>>;
 
 struct LocaleCase {
   const wchar_t* lastReported;  // as the companion writes 2 March 2026 09:05:07
   const wchar_t* unreadable;    // a date this locale cannot read
   std::string occurrence;       // 9 March 2026 14:30 as the companion must get it
-};
-
-// The add-in's logic in this process, its settings read from the registry.
-struct LogicInProcess {
-  win32::Win32Platform platform;
-  AddinState s{platform.Get()};
-  sim::Outlook world;
-
-  explicit LogicInProcess(const Settings& settings) {
-    WriteSettings(settings);
-    s.main.objOutlook = world.Application();
-    s.main.objMySettings = std::make_unique<cMySettings>();
-    s.main.objMySettings->ReadSettings(s);
-  }
-  ~LogicInProcess() { DeleteTree(kSettingsKey); }
-  cMySettings& settings() { return *s.main.objMySettings; }
 };
 
 // oleaut32 and the runtime's composition may differ in the last bits.
@@ -67,27 +45,28 @@ int32_t FailureNumber(void (*convert)()) {
 }
 
 void CheckLocale(const LocaleCase& c) {
-  const DateValue lastReported = ComposeDate({2026, 3, 2, 9, 5, 7});
-  {
-    LogicInProcess logic(Settings{{L"LastReported", c.lastReported}});
-    CHECK(SameSecond(logic.settings().LastReported, lastReported));
-  }
+  WriteSettings({{L"LastReported", c.lastReported}});
+  CHECK(
+      SameSecond(LocalAddin().s.main.Settings().LastReported, ComposeDate({2026, 3, 2, 9, 5, 7})));
   {
     // Text that is no date here leaves the value as it was, and nobody is told.
-    LogicInProcess logic(Settings{{L"LastReported", c.unreadable}});
-    CHECK(logic.settings().LastReported == kEmptyDate);
-    CHECK(Watcher().Take().empty());
+    WriteSettings({{L"LastReported", c.unreadable}});
+    LocalAddin local;
+    CHECK(local.s.main.Settings().LastReported == kEmptyDate);
+    CHECK(local.failures->empty());
   }
 
-  LogicInProcess logic(Settings{{L"AskForConfirmationBeforeReporting", L"0"}});
-  auto series = logic.world.AddRecurringAppointment("Weekly", ComposeDate({2026, 3, 2, 14, 30, 0}),
-                                                    ComposeDate({2026, 3, 2, 15, 0, 0}),
-                                                    logic.world.Calendar());
-  auto occurrence = logic.world.Occurrence(*series, ComposeDate({2026, 3, 9, 14, 30, 0}));
+  WriteSettings({{L"AskForConfirmationBeforeReporting", L"0"}});
+  LocalAddin local;
+  auto series = local.host.AddRecurringAppointment("Weekly", ComposeDate({2026, 3, 2, 14, 30, 0}),
+                                                   ComposeDate({2026, 3, 2, 15, 0, 0}),
+                                                   local.host.Calendar());
+  auto occurrence = local.host.Occurrence(*series, ComposeDate({2026, 3, 9, 14, 30, 0}));
   ClearJournal();
-  ReportToDB(logic.s, "STORE", occurrence->AsObject());
+  ReportToDB(local.s, "STORE", occurrence->AsObject());
   CHECK_EQ(FinishedLaunches(),
            std::vector<std::string>{"0|STORE|" + occurrence->EntryId() + ";" + c.occurrence});
+  CHECK(local.failures->empty());
   CHECK(Watcher().Take().empty());
 }
 

@@ -41,24 +41,13 @@ void AddinSession::Start() {
 }
 
 HRESULT AddinSession::ClickRibbon(const std::string& controlId) {
-  const ComPtr<IDispatch> dispatch = Dispatch();
-  std::wstring name = L"SubExecuteAction";
-  LPOLESTR names[] = {name.data()};
-  DISPID id = 0;
-  if (const HRESULT hr = dispatch->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
-      FAILED(hr)) {
-    return hr;
-  }
   auto control = std::make_shared<sim::FakeObject>("IRibbonControl");
   control->ReadOnly("Id", Variant(controlId));
   const ComPtr<IDispatch> face = win32::MakeDispatchFace(control);
   VARIANT argument{};
   argument.vt = VT_DISPATCH;
   argument.pdispVal = face.get();
-  DISPPARAMS params{&argument, nullptr, 1, 0};
-  UINT argError = 0;
-  return dispatch->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, nullptr,
-                          nullptr, &argError);
+  return InvokeByName(Dispatch().get(), L"SubExecuteAction", {argument});
 }
 
 HRESULT AddinSession::BeginShutdown() {
@@ -69,6 +58,20 @@ HRESULT AddinSession::BeginShutdown() {
 HRESULT AddinSession::Disconnect() {
   shutDown_ = true;
   return addin_->OnDisconnection(com::ext_dm_HostShutdown, &custom_);
+}
+
+HRESULT InvokeByName(IDispatch* dispatch, std::wstring name, std::vector<VARIANT> argsLastFirst,
+                     VARIANT* result, EXCEPINFO* info, UINT* argError) {
+  LPOLESTR names[] = {name.data()};
+  DISPID id = DISPID_UNKNOWN;
+  if (const HRESULT hr = dispatch->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
+      FAILED(hr)) {
+    return hr;
+  }
+  DISPPARAMS params{argsLastFirst.data(), nullptr, static_cast<UINT>(argsLastFirst.size()), 0};
+  UINT unused = 0;
+  return dispatch->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params, result, info,
+                          argError ? argError : &unused);
 }
 
 HWND FindClientWindow() {

@@ -67,6 +67,12 @@ class AddinSession {
   bool shutDown_ = false;
 };
 
+// Office's late-bound call: the member's id by GetIDsOfNames (a failure there
+// is the answer), then Invoke as a method with the arguments last to first.
+HRESULT InvokeByName(IDispatch* dispatch, std::wstring name, std::vector<VARIANT> argsLastFirst,
+                     VARIANT* result = nullptr, EXCEPINFO* info = nullptr,
+                     UINT* argError = nullptr);
+
 // The add-in's listener window, found by its caption as the companion finds it.
 HWND FindClientWindow();
 

@@ -19,25 +19,14 @@ std::string DllRibbonAddin::GetCustomUI(std::string_view ribbonId) {
 
 CallbackOutcome DllRibbonAddin::Call(std::string_view name, std::vector<Variant>& args,
                                      Variant& result) {
-  ComPtr<IDispatch> dispatch = session_.Dispatch();
-  std::wstring wide = win32::Wide(name);
-  LPOLESTR names[] = {wide.data()};
-  DISPID id = DISPID_UNKNOWN;
-  if (dispatch->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id) != S_OK) {
-    return CallbackOutcome::UnknownName;
-  }
   std::vector<VARIANT> lastFirst(args.size());
-  for (size_t i = 0; i < args.size(); ++i) {
-    VariantInit(&lastFirst[args.size() - 1 - i]);
+  for (size_t i = 0; i < args.size(); ++i)
     win32::ToVariant(args[i], &lastFirst[args.size() - 1 - i]);
-  }
-  DISPPARAMS params{lastFirst.data(), nullptr, static_cast<UINT>(lastFirst.size()), 0};
   VARIANT answer;
   VariantInit(&answer);
   EXCEPINFO info{};
-  UINT argError = 0;
-  const HRESULT hr = dispatch->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &params,
-                                      &answer, &info, &argError);
+  const HRESULT hr =
+      InvokeByName(session_.Dispatch().get(), win32::Wide(name), lastFirst, &answer, &info);
   for (VARIANT& v : lastFirst) VariantClear(&v);
   if (hr == DISP_E_EXCEPTION) {
     SysFreeString(info.bstrSource);
@@ -46,7 +35,7 @@ CallbackOutcome DllRibbonAddin::Call(std::string_view name, std::vector<Variant>
     return CallbackOutcome::Failed;
   }
   if (hr == DISP_E_BADPARAMCOUNT) return CallbackOutcome::WrongArgumentCount;
-  if (hr == DISP_E_MEMBERNOTFOUND) return CallbackOutcome::UnknownName;
+  if (hr == DISP_E_UNKNOWNNAME || hr == DISP_E_MEMBERNOTFOUND) return CallbackOutcome::UnknownName;
   if (FAILED(hr)) return CallbackOutcome::Failed;
   result = win32::FromVariant(answer);
   VariantClear(&answer);
@@ -73,6 +62,13 @@ Object RibbonControl(const std::string& id, const Object& context, const std::st
       .ReadOnly("Tag", Variant(tag))
       .ReadOnly("Context", Variant(context));
   return control->AsObject();
+}
+
+std::shared_ptr<sim::FakeObject> FakeRibbonUi() {
+  auto ribbonUi = std::make_shared<sim::FakeObject>("IRibbonUI");
+  ribbonUi->Method("Invalidate", 0, 0, [](sim::Args&) { return Variant(); });
+  ribbonUi->Method("InvalidateControl", 1, 1, [](sim::Args&) { return Variant(); });
+  return ribbonUi;
 }
 
 }  // namespace qvx::winetest

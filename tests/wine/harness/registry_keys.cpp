@@ -46,4 +46,15 @@ void WriteSettings(const std::vector<std::pair<std::wstring, std::wstring>>& val
   for (const auto& [name, value] : values) WriteText(kSettingsKey, name, value);
 }
 
+void WriteConfiguredUser(const std::wstring& catalogue, const std::wstring& autoSync) {
+  WriteSettings({{L"DBChoice", L"1"},
+                 {L"DBConnectionString", L"DSN=Timesheets"},
+                 {L"AutoSyncToDB", autoSync},
+                 {L"AllowAppointmentItems", L"-1"},
+                 {L"AllowTaskItems", L"-1"},
+                 {L"showProjectTaskToolbar", L"-1"},
+                 {L"showCustomFieldsToolbar", L"-1"},
+                 {L"MyProjectsTasks", catalogue}});
+}
+
 }  // namespace qvx::winetest

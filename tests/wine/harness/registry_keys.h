@@ -24,5 +24,8 @@ void WriteText(const std::wstring& key, const std::wstring& name, const std::wst
 void DeleteTree(const std::wstring& key);
 // Replaces the add-in's settings key with exactly these values (none: no key).
 void WriteSettings(const std::vector<std::pair<std::wstring, std::wstring>>& values);
+// The settings of a configured user of appointments and tasks with both
+// toolbars shown, with this catalogue and automatic synchronisation.
+void WriteConfiguredUser(const std::wstring& catalogue, const std::wstring& autoSync = L"-1");
 
 }  // namespace qvx::winetest
