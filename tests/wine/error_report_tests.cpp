@@ -21,42 +21,42 @@ constexpr int32_t kHostError = static_cast<int32_t>(0x8004010F);
 
 }  // namespace
 
-WINE_TEST(ErrorReport, AHostFailureShowsTheFirstReport) {
+TEST(ErrorReport, AHostFailureShowsTheFirstReport) {
   WriteSettings({{L"DBChoice", L"1"}, {L"AutoSyncToDB", L"-1"}});
   ClearJournal();
   Watcher().Take();
   AddinSession session;
   // The start-up reads ActiveExplorer once the explorers are followed.
   session.world().FailAt("ActiveExplorer", kHostError, "The explorer could not be reached.");
-  REQUIRE_EQ(session.Connect(), S_OK);
-  CHECK_EQ(session.StartupComplete(), S_OK);  // the host sees no failure
+  ASSERT_EQ(session.Connect(), S_OK);
+  EXPECT_EQ(session.StartupComplete(), S_OK);  // the host sees no failure
 
   const std::vector<SeenDialog> seen = Watcher().Take();
-  REQUIRE_EQ(seen.size(), size_t{1});
-  CHECK_EQ(seen[0].caption, std::wstring(L"Unknown Exception"));
-  CHECK(!seen[0].messageBox);
-  CHECK(seen[0].Shows(L"In Function: Main.StartingPoint"));
-  CHECK(seen[0].Shows(L"At Line: 90"));
-  CHECK(seen[0].Shows(L"Source: Microsoft Outlook"));
-  CHECK(seen[0].Shows(L"Exception Number: " + std::to_wstring(kHostError)));
-  CHECK(seen[0].Shows(L"Exception Description: The explorer could not be reached."));
+  ASSERT_EQ(seen.size(), size_t{1});
+  EXPECT_EQ(seen[0].caption, std::wstring(L"Unknown Exception"));
+  EXPECT_TRUE(!seen[0].messageBox);
+  EXPECT_TRUE(seen[0].Shows(L"In Function: Main.StartingPoint"));
+  EXPECT_TRUE(seen[0].Shows(L"At Line: 90"));
+  EXPECT_TRUE(seen[0].Shows(L"Source: Microsoft Outlook"));
+  EXPECT_TRUE(seen[0].Shows(L"Exception Number: " + std::to_wstring(kHostError)));
+  EXPECT_TRUE(seen[0].Shows(L"Exception Description: The explorer could not be reached."));
   // The start-up ended at the failure: no companion section was started.
-  CHECK(FinishedLaunches().empty());
+  EXPECT_TRUE(FinishedLaunches().empty());
 
   // A later failure of the same add-in is dropped without a dialog.
   session.world().FailAt("Explorers.Count", kHostError, "Counting failed.");
   session.world().OpenExplorer(session.world().Tasks());
-  CHECK(Watcher().Take().empty());
+  EXPECT_TRUE(Watcher().Take().empty());
 
   // And the add-in still works: the channel is open and the tear-down runs.
-  CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 1), 0u);
-  CHECK(PumpUntil([] { return JournalLines() >= 1; }));
-  CHECK_EQ(FinishedLaunches(), std::vector<std::string>{"28"});
-  CHECK_EQ(session.BeginShutdown(), S_OK);
-  CHECK(FindClientWindow() == nullptr);
+  EXPECT_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 1), 0u);
+  EXPECT_TRUE(PumpUntil([] { return JournalLines() >= 1; }));
+  EXPECT_EQ(FinishedLaunches(), std::vector<std::string>{"28"});
+  EXPECT_EQ(session.BeginShutdown(), S_OK);
+  EXPECT_TRUE(FindClientWindow() == nullptr);
 }
 
-WINE_TEST(ErrorReport, AHostThatCannotShowItsCalendarIsToldInAMessageBox) {
+TEST(ErrorReport, AHostThatCannotShowItsCalendarIsToldInAMessageBox) {
   WriteSettings({{L"DBChoice", L"1"}});
   Watcher().Take();
   sim::Outlook::Options options;
@@ -66,13 +66,13 @@ WINE_TEST(ErrorReport, AHostThatCannotShowItsCalendarIsToldInAMessageBox) {
   session.Start();
 
   const std::vector<SeenDialog> seen = Watcher().Take();
-  REQUIRE_EQ(seen.size(), size_t{1});
-  CHECK(seen[0].messageBox);
-  CHECK_EQ(seen[0].caption, std::wstring(L"Quorvix Client Addin"));
-  CHECK(seen[0].Shows(L"Can't access Outlook API!"));
+  ASSERT_EQ(seen.size(), size_t{1});
+  EXPECT_TRUE(seen[0].messageBox);
+  EXPECT_EQ(seen[0].caption, std::wstring(L"Quorvix Client Addin"));
+  EXPECT_TRUE(seen[0].Shows(L"Can't access Outlook API!"));
   // The start-up goes on after the box: the channel is open.
-  CHECK(FindClientWindow() != nullptr);
-  CHECK(session.world().Explorers().empty());
+  EXPECT_TRUE(FindClientWindow() != nullptr);
+  EXPECT_TRUE(session.world().Explorers().empty());
 }
 
 }  // namespace qvx::winetest

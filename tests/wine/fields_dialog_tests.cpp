@@ -19,7 +19,7 @@
 
 namespace qvx::winetest {
 
-WINE_TEST(FieldsDialog, OpensAsAWindowAndSaveWritesWhatWasTyped) {
+TEST(FieldsDialog, OpensAsAWindowAndSaveWritesWhatWasTyped) {
   WriteSettings({{L"DBChoice", L"1"},
                  {L"MyProjectsTasks", L"Alpha,5,,:Design,;Review,\r\nBeta,8,,:Build,"},
                  {L"CustomField9Active", L"-1"},
@@ -29,36 +29,37 @@ WINE_TEST(FieldsDialog, OpensAsAWindowAndSaveWritesWhatWasTyped) {
   item->UserProperties().Set("ProjectValue", 1, Variant("Alpha"));  // olText
   frmFields form{local.s};
   form.LoadFields(item->AsObject());
-  CHECK_EQ(form.Caption(), std::string("All Project Fields"));
+  EXPECT_EQ(form.Caption(), std::string("All Project Fields"));
   form.SetCaption("Test: " + form.Caption());  // the watcher leaves it to the test
-  const bool closedItself = ShowAndDrive(
-      form, {[&](HWND dialog) {
-               CHECK(TextOf(dialog) == L"Test: All Project Fields");
-               CHECK(TextOf(ControlOf(dialog, form, "txtReportedID")) == L"Not Reported Yet!");
-               CHECK(TextOf(ControlOf(dialog, form, "lblField9")) == L"Hours");
-               CHECK(TextOf(ControlOf(dialog, form, "cboProject")) == L"Alpha");
-               CHECK(IsWindowEnabled(ControlOf(dialog, form, "txtField9")));
-               CHECK(!IsWindowEnabled(ControlOf(dialog, form, "txtField10")));
-               HWND hours = ControlOf(dialog, form, "txtField9");
-               SetFocus(hours);
-               for (const wchar_t key : {L'4', L'x', L'-', L'2', L'.', L'5', L'\b'}) {
-                 PostMessageW(hours, WM_CHAR, key, 0);
-               }
-             },
-             [&](HWND dialog) {
-               CHECK(TextOf(ControlOf(dialog, form, "txtField9")) == L"42");
-               PostClick(dialog, ControlOf(dialog, form, "cmdSave"));
-             }});
-  CHECK(closedItself);
-  CHECK(form.Unloaded());
+  const bool closedItself =
+      ShowAndDrive(form, {[&](HWND dialog) {
+                            EXPECT_TRUE(TextOf(dialog) == L"Test: All Project Fields");
+                            EXPECT_TRUE(TextOf(ControlOf(dialog, form, "txtReportedID")) ==
+                                        L"Not Reported Yet!");
+                            EXPECT_TRUE(TextOf(ControlOf(dialog, form, "lblField9")) == L"Hours");
+                            EXPECT_TRUE(TextOf(ControlOf(dialog, form, "cboProject")) == L"Alpha");
+                            EXPECT_TRUE(IsWindowEnabled(ControlOf(dialog, form, "txtField9")));
+                            EXPECT_TRUE(!IsWindowEnabled(ControlOf(dialog, form, "txtField10")));
+                            HWND hours = ControlOf(dialog, form, "txtField9");
+                            SetFocus(hours);
+                            for (const wchar_t key : {L'4', L'x', L'-', L'2', L'.', L'5', L'\b'}) {
+                              PostMessageW(hours, WM_CHAR, key, 0);
+                            }
+                          },
+                          [&](HWND dialog) {
+                            EXPECT_TRUE(TextOf(ControlOf(dialog, form, "txtField9")) == L"42");
+                            PostClick(dialog, ControlOf(dialog, form, "cmdSave"));
+                          }});
+  EXPECT_TRUE(closedItself);
+  EXPECT_TRUE(form.Unloaded());
   const auto property = [&](std::string_view name) {
     auto found = item->UserProperties().Find(name);
     return found ? found->value().ToText() : std::string("(none)");
   };
-  CHECK_EQ(property("Field9Value"), std::string("42"));
-  CHECK_EQ(property("ProjectValue"), std::string("Alpha"));
-  CHECK(local.failures->empty());
-  CHECK(Watcher().Take().empty());
+  EXPECT_EQ(property("Field9Value"), std::string("42"));
+  EXPECT_EQ(property("ProjectValue"), std::string("Alpha"));
+  EXPECT_TRUE(local.failures->empty());
+  EXPECT_TRUE(Watcher().Take().empty());
 }
 
 }  // namespace qvx::winetest

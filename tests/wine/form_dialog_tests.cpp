@@ -70,71 +70,72 @@ struct FieldsForm {
   }
 };
 
-WINE_TEST(FormDialog, ShowsTheModelInTabOrderAndEnterClicksTheDefaultButton) {
+TEST(FormDialog, ShowsTheModelInTabOrderAndEnterClicksTheDefaultButton) {
   FieldsForm f;
   const bool closedItself = ShowAndDrive(
       f.form,
       {[&](HWND dialog) {
-         CHECK(TextOf(dialog) == L"Test: All Project Fields");
-         CHECK(TextOf(Item(dialog, 0)) == L"&Project");
-         CHECK_EQ(SendMessageW(Item(dialog, 1), CB_GETCOUNT, 0, 0), LRESULT{2});
-         CHECK(TextOf(Item(dialog, 1)) == L"Beta");
-         CHECK(TextOf(Item(dialog, 4)) == L"&Save");
-         CHECK((GetWindowLongW(Item(dialog, 4), GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON);
+         EXPECT_TRUE(TextOf(dialog) == L"Test: All Project Fields");
+         EXPECT_TRUE(TextOf(Item(dialog, 0)) == L"&Project");
+         EXPECT_EQ(SendMessageW(Item(dialog, 1), CB_GETCOUNT, 0, 0), LRESULT{2});
+         EXPECT_TRUE(TextOf(Item(dialog, 1)) == L"Beta");
+         EXPECT_TRUE(TextOf(Item(dialog, 4)) == L"&Save");
+         EXPECT_TRUE((GetWindowLongW(Item(dialog, 4), GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON);
          // The system's dialog font, on the dialog and its controls alike.
          const auto font = reinterpret_cast<HFONT>(SendMessageW(dialog, WM_GETFONT, 0, 0));
-         CHECK(font != nullptr);
-         CHECK(reinterpret_cast<HFONT>(SendMessageW(Item(dialog, 3), WM_GETFONT, 0, 0)) == font);
+         EXPECT_TRUE(font != nullptr);
+         EXPECT_TRUE(reinterpret_cast<HFONT>(SendMessageW(Item(dialog, 3), WM_GETFONT, 0, 0)) ==
+                     font);
          // Tab goes combo, text box, Save, Cancel, and round again.
          std::vector<int> order;
          HWND at = Item(dialog, 1);
          for (int i = 0; i < 4; ++i, at = GetNextDlgTabItem(dialog, at, FALSE)) {
            order.push_back(GetDlgCtrlID(at) - kFirstControlId);
          }
-         CHECK_EQ(order, (std::vector<int>{1, 3, 4, 5}));
-         CHECK(GetNextDlgTabItem(dialog, Item(dialog, 5), FALSE) == Item(dialog, 1));
+         EXPECT_EQ(order, (std::vector<int>{1, 3, 4, 5}));
+         EXPECT_TRUE(GetNextDlgTabItem(dialog, Item(dialog, 5), FALSE) == Item(dialog, 1));
          // The user chooses the first row of the combo box.
          SendMessageW(Item(dialog, 1), CB_SETCURSEL, 0, 0);
          PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(kFirstControlId + 1, CBN_SELCHANGE),
                       reinterpret_cast<LPARAM>(Item(dialog, 1)));
        },
        [&](HWND dialog) {
-         CHECK_EQ(f.form.At("cboProject").text, std::string("Alpha"));
+         EXPECT_EQ(f.form.At("cboProject").text, std::string("Alpha"));
          SetFocus(Item(dialog, 3));
          PostMessageW(Item(dialog, 3), WM_KEYDOWN, VK_RETURN, 0);
        }});
-  CHECK(closedItself);
-  CHECK_EQ(f.log, (std::vector<std::string>{"cboProject.Click", "save"}));
-  CHECK(f.form.Unloaded());
+  EXPECT_TRUE(closedItself);
+  EXPECT_EQ(f.log, (std::vector<std::string>{"cboProject.Click", "save"}));
+  EXPECT_TRUE(f.form.Unloaded());
 }
 
-WINE_TEST(FormDialog, EscClicksTheCancelButton) {
+TEST(FormDialog, EscClicksTheCancelButton) {
   FieldsForm f;
   const bool closedItself = ShowAndDrive(f.form, {[&](HWND dialog) {
                                            SetFocus(Item(dialog, 3));
                                            PostMessageW(Item(dialog, 3), WM_KEYDOWN, VK_ESCAPE, 0);
                                          }});
-  CHECK(closedItself);
-  CHECK_EQ(f.log, std::vector<std::string>{"cancel"});
-  CHECK_EQ(f.closeModes, std::vector<int32_t>{platform::kCloseByCode});  // Unload in the handler
+  EXPECT_TRUE(closedItself);
+  EXPECT_EQ(f.log, std::vector<std::string>{"cancel"});
+  EXPECT_EQ(f.closeModes, std::vector<int32_t>{platform::kCloseByCode});  // Unload in the handler
 }
 
-WINE_TEST(FormDialog, QueryCloseCanKeepTheDialogOpen) {
+TEST(FormDialog, QueryCloseCanKeepTheDialogOpen) {
   FieldsForm f;
   f.keepOpen = true;
   const bool closedItself =
       ShowAndDrive(f.form, {[&](HWND dialog) { PostMessageW(dialog, WM_CLOSE, 0, 0); },
                             [&](HWND dialog) {
-                              CHECK(IsWindowVisible(dialog));
-                              CHECK(!f.form.Unloaded());
+                              EXPECT_TRUE(IsWindowVisible(dialog));
+                              EXPECT_TRUE(!f.form.Unloaded());
                               f.keepOpen = false;
                               PostMessageW(dialog, WM_CLOSE, 0, 0);
                             }});
-  CHECK(closedItself);
-  CHECK(f.form.Unloaded());
-  CHECK_EQ(f.closeModes,
-           (std::vector<int32_t>{platform::kCloseByControlMenu, platform::kCloseByControlMenu}));
-  CHECK(f.log.empty());
+  EXPECT_TRUE(closedItself);
+  EXPECT_TRUE(f.form.Unloaded());
+  EXPECT_EQ(f.closeModes,
+            (std::vector<int32_t>{platform::kCloseByControlMenu, platform::kCloseByControlMenu}));
+  EXPECT_TRUE(f.log.empty());
 }
 
 }  // namespace

@@ -44,7 +44,7 @@ constexpr Figure kRecorded[] = {
 
 }  // namespace
 
-WINE_TEST(HostCalls, NoUserActionCallsTheHostMoreThanItsRecordedFigure) {
+TEST(HostCalls, NoUserActionCallsTheHostMoreThanItsRecordedFigure) {
   WriteConfiguredUser(L"Alpha,5,2026-3-2,2026-6-30:Design,2026-4-15;Review,\r\nBeta,8,,:Build,");
   ClearJournal();
   AddinSession session;
@@ -61,7 +61,7 @@ WINE_TEST(HostCalls, NoUserActionCallsTheHostMoreThanItsRecordedFigure) {
   auto ribbonUi = FakeRibbonUi();
   const auto act = [&](const char* callback, std::vector<Variant> args) {
     Variant none;
-    CHECK(ribbon.Call(callback, args, none) == CallbackOutcome::Done);
+    EXPECT_TRUE(ribbon.Call(callback, args, none) == CallbackOutcome::Done);
   };
 
   std::vector<Figure> measured;
@@ -73,27 +73,27 @@ WINE_TEST(HostCalls, NoUserActionCallsTheHostMoreThanItsRecordedFigure) {
   };
   count(kRecorded[0].action, [&] { session.Start(); });
   const auto explorer = world.ActiveExplorer();
-  REQUIRE(explorer != nullptr);
+  ASSERT_TRUE(explorer != nullptr);
   const Object context = explorer->AsObject();
   act("OnLoad", {Variant(ribbonUi->AsObject())});
   count(kRecorded[1].action, [&] { world.SwitchFolder(*explorer, world.Calendar()); });
   count(kRecorded[2].action, [&] { world.Select(*explorer, items); });
   count(kRecorded[3].action, [&] {
     const HWND listener = FindClientWindow();
-    REQUIRE(listener != nullptr);
+    ASSERT_TRUE(listener != nullptr);
     SendMessageW(listener, RegisterWindowMessageW(L"ZNB_QVX_Client"), 2, 0);
     PumpOnce();
-    CHECK_EQ(ribbon.Rows(RibbonControl("cboProjectCal", context)),
-             (std::vector<std::string>{"Alpha", "Beta", ""}));
+    EXPECT_EQ(ribbon.Rows(RibbonControl("cboProjectCal", context)),
+              (std::vector<std::string>{"Alpha", "Beta", ""}));
     ribbon.Rows(RibbonControl("cboTaskCal", context));  // no project yet: the empty row
   });
   count(kRecorded[4].action, [&] {
     act("OnActionDropDown",
         {Variant(RibbonControl("cboProjectCal", context)), Variant(""), Variant(int32_t{0})});
   });
-  CHECK(ribbonUi->CallCount("InvalidateControl") + ribbonUi->CallCount("Invalidate") > 0);
-  CHECK_EQ(ribbon.Rows(RibbonControl("cboTaskCal", context)),
-           (std::vector<std::string>{"Design", "Review", ""}));
+  EXPECT_TRUE(ribbonUi->CallCount("InvalidateControl") + ribbonUi->CallCount("Invalidate") > 0);
+  EXPECT_EQ(ribbon.Rows(RibbonControl("cboTaskCal", context)),
+            (std::vector<std::string>{"Design", "Review", ""}));
   count(kRecorded[5].action, [&] {
     act("OnActionDropDown",
         {Variant(RibbonControl("cboTaskCal", context)), Variant(""), Variant(int32_t{0})});
@@ -102,13 +102,13 @@ WINE_TEST(HostCalls, NoUserActionCallsTheHostMoreThanItsRecordedFigure) {
   count(kRecorded[6].action,
         [&] { act("SubExecuteAction", {Variant(RibbonControl("cmdReportCal", context))}); });
   const std::vector<std::string> launches = FinishedLaunches();
-  CHECK(!launches.empty() && launches.back().rfind("0|", 0) == 0);  // the report's
-  CHECK_EQ(Watcher().Take().size(), size_t{1});  // its confirmation, answered Yes
+  EXPECT_TRUE(!launches.empty() && launches.back().rfind("0|", 0) == 0);  // the report's
+  EXPECT_EQ(Watcher().Take().size(), size_t{1});  // its confirmation, answered Yes
   const Object tagged = items.back()->AsObject().Get("UserProperties").ToObject();
-  CHECK_EQ(tagged.Call("Find", {Variant("ProjectValue")}).ToObject().Get("Value").ToText(),
-           std::string("Alpha"));
-  CHECK_EQ(tagged.Call("Find", {Variant("ActivityValue")}).ToObject().Get("Value").ToText(),
-           std::string("Design"));
+  EXPECT_EQ(tagged.Call("Find", {Variant("ProjectValue")}).ToObject().Get("Value").ToText(),
+            std::string("Alpha"));
+  EXPECT_EQ(tagged.Call("Find", {Variant("ActivityValue")}).ToObject().Get("Value").ToText(),
+            std::string("Design"));
 
   for (size_t i = 0; i < measured.size(); ++i) {
     const Figure& now = measured[i];
@@ -116,9 +116,9 @@ WINE_TEST(HostCalls, NoUserActionCallsTheHostMoreThanItsRecordedFigure) {
     Note(std::string(now.action) + ": " + std::to_string(now.invokes) + " Invoke, " +
          std::to_string(now.nameLookups) + " GetIDsOfNames, " + std::to_string(now.typeInfos) +
          " GetTypeInfo");
-    CHECK(now.invokes <= recorded.invokes);
-    CHECK(now.nameLookups <= recorded.nameLookups);
-    CHECK(now.typeInfos <= recorded.typeInfos);
+    EXPECT_TRUE(now.invokes <= recorded.invokes);
+    EXPECT_TRUE(now.nameLookups <= recorded.nameLookups);
+    EXPECT_TRUE(now.typeInfos <= recorded.typeInfos);
   }
 }
 

@@ -29,37 +29,37 @@ struct ConfiguredSession {
 // The window comes with the heavy stage, not on connection, and goes when
 // closing the last explorer tears the add-in down from inside its own
 // client's Close handler.
-WINE_TEST(Listener, IsAHiddenTopLevelWindowOfTheHostThreadUntilTheLastExplorerCloses) {
+TEST(Listener, IsAHiddenTopLevelWindowOfTheHostThreadUntilTheLastExplorerCloses) {
   ConfiguredSession c;
-  CHECK(FindClientWindow() == nullptr);
-  REQUIRE_EQ(c.session.Connect(), S_OK);
-  CHECK(FindClientWindow() == nullptr);
-  REQUIRE_EQ(c.session.StartupComplete(), S_OK);
+  EXPECT_TRUE(FindClientWindow() == nullptr);
+  ASSERT_EQ(c.session.Connect(), S_OK);
+  EXPECT_TRUE(FindClientWindow() == nullptr);
+  ASSERT_EQ(c.session.StartupComplete(), S_OK);
 
   HWND window = FindClientWindow();
-  REQUIRE(window != nullptr);
-  CHECK(!IsWindowVisible(window));
-  CHECK(GetAncestor(window, GA_PARENT) == GetDesktopWindow());
+  ASSERT_TRUE(window != nullptr);
+  EXPECT_TRUE(!IsWindowVisible(window));
+  EXPECT_TRUE(GetAncestor(window, GA_PARENT) == GetDesktopWindow());
   DWORD process = 0;
-  CHECK_EQ(GetWindowThreadProcessId(window, &process), GetCurrentThreadId());
-  CHECK_EQ(process, GetCurrentProcessId());
+  EXPECT_EQ(GetWindowThreadProcessId(window, &process), GetCurrentThreadId());
+  EXPECT_EQ(process, GetCurrentProcessId());
 
   auto explorer = c.session.world().ActiveExplorer();
-  REQUIRE(explorer != nullptr);
+  ASSERT_TRUE(explorer != nullptr);
   c.session.world().Close(*explorer);
-  CHECK(PumpUntil([] { return FindClientWindow() == nullptr; }));
-  CHECK(Watcher().Take().empty());
+  EXPECT_TRUE(PumpUntil([] { return FindClientWindow() == nullptr; }));
+  EXPECT_TRUE(Watcher().Take().empty());
 }
 
 // Ten thousand messages that are not the add-in's, and values that mean
 // nothing, go by; the window stays, passes foreign messages on unchanged to
 // its own procedure, and the companion's 1 from another process still runs
 // the unattended synchronisation, section 28, even while one runs.
-WINE_TEST(Listener, ClientMessagesFromAnotherProcessReachTheAddinPastABurstOfForeignOnes) {
+TEST(Listener, ClientMessagesFromAnotherProcessReachTheAddinPastABurstOfForeignOnes) {
   ConfiguredSession c;
   c.session.Start();
   HWND window = FindClientWindow();
-  REQUIRE(window != nullptr);
+  ASSERT_TRUE(window != nullptr);
   auto application = c.session.At("");
   const int reads = application->CallCount("ActiveWindow");
   for (int i = 0; i < 10000; ++i) {
@@ -67,43 +67,45 @@ WINE_TEST(Listener, ClientMessagesFromAnotherProcessReachTheAddinPastABurstOfFor
     if (i % 1000 == 999) PumpOnce();  // a thread's queue holds 10,000 at most
   }
   for (const int value : {3, 7, -1, 65536}) {
-    CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", value), 0u);
+    EXPECT_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", value), 0u);
   }
   for (const int value : {1, 2, -5}) {
-    CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Manager", value), 0u);
+    EXPECT_EQ(PostFromAnotherProcess(L"ZNB_QVX_Manager", value), 0u);
   }
   PumpOnce();
-  CHECK(FindClientWindow() == window);
-  CHECK(FinishedLaunches().empty());
-  CHECK_EQ(application->CallCount("ActiveWindow"), reads);  // no bar was refreshed
+  EXPECT_TRUE(FindClientWindow() == window);
+  EXPECT_TRUE(FinishedLaunches().empty());
+  EXPECT_EQ(application->CallCount("ActiveWindow"), reads);  // no bar was refreshed
   // A foreign message reaches the window's own procedure with its lParam.
   const wchar_t probe[] = L"probe";
   SendMessageW(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(probe));
   wchar_t caption[64] = {};
   GetWindowTextW(window, caption, 64);
-  CHECK(std::wstring(caption) == L"probe");
+  EXPECT_TRUE(std::wstring(caption) == L"probe");
   SetWindowTextW(window, L"Client Window - Quorvix Client for Outlook");
-  for (const int value : {1, 1}) CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", value), 0u);
-  CHECK(PumpUntil([] { return JournalLines() >= 2; }));
-  CHECK_EQ(FinishedLaunches(), (std::vector<std::string>{"28", "28"}));
-  CHECK(Watcher().Take().empty());
+  for (const int value : {1, 1}) EXPECT_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", value), 0u);
+  EXPECT_TRUE(PumpUntil([] { return JournalLines() >= 2; }));
+  EXPECT_EQ(FinishedLaunches(), (std::vector<std::string>{"28", "28"}));
+  EXPECT_TRUE(Watcher().Take().empty());
 }
 
 // The companion writes settings with the registry API from its own process,
 // then says so: the add-in's next decision (the projects' colours) shows
 // the new values.
-WINE_TEST(Listener, SettingsWrittenOutsideAreReadWhenTheClientSaysSo) {
+TEST(Listener, SettingsWrittenOutsideAreReadWhenTheClientSaysSo) {
   ConfiguredSession c;
   c.session.Start();
-  CHECK(c.session.world().FindCategory("Alpha") == nullptr);
-  CHECK_EQ(
+  EXPECT_TRUE(c.session.world().FindCategory("Alpha") == nullptr);
+  EXPECT_EQ(
       PostFromAnotherProcess(L"ZNB_QVX_Client", 0,
                              {L"AddProjectColorCodes=-1", L"MyProjectsTasks=Alpha,5,,:Design,"}),
       0u);
-  CHECK(PumpUntil([&] { return c.session.world().FindCategory("Alpha") != nullptr; }));
-  if (auto alpha = c.session.world().FindCategory("Alpha")) CHECK_EQ(alpha->color(), 5);
-  CHECK(FinishedLaunches().empty());
-  CHECK(Watcher().Take().empty());
+  EXPECT_TRUE(PumpUntil([&] { return c.session.world().FindCategory("Alpha") != nullptr; }));
+  if (auto alpha = c.session.world().FindCategory("Alpha")) {
+    EXPECT_EQ(alpha->color(), 5);
+  }
+  EXPECT_TRUE(FinishedLaunches().empty());
+  EXPECT_TRUE(Watcher().Take().empty());
 }
 
 }  // namespace qvx::winetest

@@ -3,13 +3,13 @@
 // registry, IDTExtensibility2, IDispatch, window messages and the programs
 // it starts).
 //
-//   wine qvx_wine_tests.exe [--list] [FILTER]
+//   wine qvx_wine_tests.exe [--gtest_...] [FILTER]
 //   wine qvx_wine_tests.exe --show DIALOG    (for tools/render-dialogs.sh)
 //   wine qvx_wine_tests.exe --time-startup [PROJECTS [STARTS]]   (startup_timing.h)
 //
-// FILTER is a substring of "Suite.Name". Exit code 0 when every test ran
-// without failure. --show brings up one of the add-in's dialogs and leaves
-// it open until it is closed.
+// FILTER is a substring of "Suite.Name" (GoogleTest's flags work too). Exit
+// code 0 when every test ran without failure and at least one ran. --show brings up one of the
+// add-in's dialogs and leaves it open until it is closed.
 #include <windows.h>
 
 #include <algorithm>
@@ -26,17 +26,13 @@
 #include "startup_timing.h"
 
 int main(int argc, char** argv) {
-  std::string filter;
+  ::testing::InitGoogleTest(&argc, argv);
   std::string show;
   bool timeStartup = false;
   size_t projects = 1000;
   int starts = 5;
   for (int i = 1; i < argc; ++i) {
     const std::string arg = argv[i];
-    if (arg == "--list") {
-      qvx::winetest::ListAll();
-      return 0;
-    }
     if (arg == "--time-startup") {
       timeStartup = true;
       if (i + 1 < argc && std::isdigit(static_cast<unsigned char>(argv[i + 1][0]))) {
@@ -45,13 +41,11 @@ int main(int argc, char** argv) {
       if (i + 1 < argc && std::isdigit(static_cast<unsigned char>(argv[i + 1][0]))) {
         starts = std::max(1, std::atoi(argv[++i]));
       }
-      continue;
-    }
-    if (arg == "--show" && i + 1 < argc) {
+    } else if (arg == "--show" && i + 1 < argc) {
       show = argv[++i];
-      continue;
+    } else {
+      GTEST_FLAG_SET(filter, "*" + arg + "*");
     }
-    filter = arg;
   }
   // The host's user interface thread: a single-threaded apartment with OLE.
   if (FAILED(OleInitialize(nullptr))) {
@@ -71,7 +65,10 @@ int main(int argc, char** argv) {
     OleUninitialize();
     return timed;
   }
-  const int result = qvx::winetest::RunAll(filter);
+  int result = RUN_ALL_TESTS();
+  if (::testing::UnitTest::GetInstance()->test_to_run_count() == 0 && !GTEST_FLAG_GET(list_tests)) {
+    result = 1;  // a filter that matches nothing is a mistake, not a pass
+  }
   qvx::winetest::SignalUserLocaleRun(result);
   OleUninitialize();
   return result;

@@ -50,7 +50,7 @@ struct Controls {
 
 }  // namespace
 
-WINE_TEST(OmittedArgument, GapsReachTheHostAsParamNotFoundAndStayApartFromEmpty) {
+TEST(OmittedArgument, GapsReachTheHostAsParamNotFoundAndStayApartFromEmpty) {
   Controls controls;
   VARIANT omitted = Omitted();
   VARIANT byRef = Arg(VT_BYREF | VT_VARIANT);
@@ -60,49 +60,49 @@ WINE_TEST(OmittedArgument, GapsReachTheHostAsParamNotFoundAndStayApartFromEmpty)
   VARIANT one = Arg(VT_I2);
   one.iVal = 1;
   // Add(1, <omitted>, Empty, <omitted by reference>, True), last to first.
-  CHECK_EQ(InvokeByName(controls.face.get(), L"Add", {yes, byRef, VARIANT{}, Omitted(), one}),
-           S_OK);
-  REQUIRE_EQ(controls.received.size(), size_t{5});
-  CHECK(controls.received[1].IsMissing());
-  CHECK(controls.received[2].IsEmpty());
-  CHECK(!controls.received[2].IsMissing());
-  CHECK(controls.received[3].IsMissing());
-  CHECK(controls.received[1] == Variant::Missing());
-  CHECK(!(controls.received[1] == Variant()));
+  EXPECT_EQ(InvokeByName(controls.face.get(), L"Add", {yes, byRef, VARIANT{}, Omitted(), one}),
+            S_OK);
+  ASSERT_EQ(controls.received.size(), size_t{5});
+  EXPECT_TRUE(controls.received[1].IsMissing());
+  EXPECT_TRUE(controls.received[2].IsEmpty());
+  EXPECT_TRUE(!controls.received[2].IsMissing());
+  EXPECT_TRUE(controls.received[3].IsMissing());
+  EXPECT_TRUE(controls.received[1] == Variant::Missing());
+  EXPECT_TRUE(!(controls.received[1] == Variant()));
 
   // The add-in's own adapter sends its gaps so (not Wrap, which would see
   // through a face of this module to the object behind it).
   Object object(std::make_shared<win32::DispatchObject>(controls.face.get()));
   object.Call("Add", {Variant(int16_t{4}), Variant::Missing(), Variant(), Variant::Missing(),
                       Variant(true)});
-  REQUIRE_EQ(controls.received.size(), size_t{5});
-  CHECK_EQ(controls.received[0].ToInteger(), int16_t{4});
-  CHECK(controls.received[1].IsMissing());
-  CHECK(controls.received[2].IsEmpty());
-  CHECK(controls.received[3].IsMissing());
-  CHECK(controls.received[4].ToBoolean());
+  ASSERT_EQ(controls.received.size(), size_t{5});
+  EXPECT_EQ(controls.received[0].ToInteger(), int16_t{4});
+  EXPECT_TRUE(controls.received[1].IsMissing());
+  EXPECT_TRUE(controls.received[2].IsEmpty());
+  EXPECT_TRUE(controls.received[3].IsMissing());
+  EXPECT_TRUE(controls.received[4].ToBoolean());
 }
 
-WINE_TEST(OmittedArgument, ARequiredOneFailsAsTheHostFailsIt) {
+TEST(OmittedArgument, ARequiredOneFailsAsTheHostFailsIt) {
   Controls controls;
   UINT argError = 99;
   // Add(<omitted>, , , , True): the type is required.
   VARIANT yes = Arg(VT_BOOL);
   yes.boolVal = VARIANT_TRUE;
-  CHECK_EQ(
+  EXPECT_EQ(
       InvokeByName(controls.face.get(), L"Add", {yes, Omitted(), Omitted(), Omitted(), Omitted()},
                    nullptr, nullptr, &argError),
       DISP_E_PARAMNOTFOUND);
-  CHECK_EQ(argError, 4u);
-  CHECK(controls.received.empty());
+  EXPECT_EQ(argError, 4u);
+  EXPECT_TRUE(controls.received.empty());
 
   // The add-in's ribbon callbacks take no optional argument.
   AddinSession session;
   argError = 99;
-  CHECK_EQ(
+  EXPECT_EQ(
       InvokeByName(session.Dispatch().get(), L"OnLoad", {Omitted()}, nullptr, nullptr, &argError),
       DISP_E_PARAMNOTFOUND);
-  CHECK_EQ(argError, 0u);
+  EXPECT_EQ(argError, 0u);
 }
 
 }  // namespace qvx::winetest

@@ -61,9 +61,9 @@ constexpr const wchar_t kTestKeyW[] = L"SOFTWARE\\Quorvix Wine Tests\\MSINFO";
 // Every view document is in the DLL under its type, its upper-cased file
 // name (parentheses and all) and language 1033, byte for byte, and found so
 // in any case; another language, type or name finds nothing.
-WINE_TEST(Resources, TheDllHoldsEveryViewDocument) {
+TEST(Resources, TheDllHoldsEveryViewDocument) {
   const HMODULE dll = GetModuleHandleW(Dll().path.c_str());
-  REQUIRE(dll != nullptr);
+  ASSERT_TRUE(dll != nullptr);
   win32::Win32Resources resources(dll);
   for (const auto& [folder, type] :
        {std::pair{"appointment", "VIEWS_APPOINTMENT"}, std::pair{"task", "VIEWS_TASK"}}) {
@@ -73,78 +73,80 @@ WINE_TEST(Resources, TheDllHoldsEveryViewDocument) {
       if (entry.path().extension() != ".xml") continue;
       std::string name = entry.path().stem().string();
       for (char& c : name) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-      Note(std::string(folder) + "/" + entry.path().filename().string());
-      CHECK_EQ(resources.FindData(type, name, kLanguageEnglishUs),
-               std::optional<std::string>(FileText(entry.path())));
+      SCOPED_TRACE(entry.path().string());
+      EXPECT_EQ(resources.FindData(type, name, kLanguageEnglishUs),
+                std::optional<std::string>(FileText(entry.path())));
       ++files;
     }
-    CHECK_EQ(files, 14);
+    EXPECT_EQ(files, 14);
     int names = 0;
     const std::wstring wideType(type, type + std::strlen(type));
     EnumResourceNamesW(dll, wideType.c_str(), CountName, reinterpret_cast<LONG_PTR>(&names));
-    CHECK_EQ(names, 14);
+    EXPECT_EQ(names, 14);
   }
   const std::string name = "REPORTED_DATE_(FILTERED)";
-  CHECK(resources.FindData("views_task", "Reported_Date_(filtered)", kLanguageEnglishUs));
-  CHECK(!resources.FindData("VIEWS_TASK", name, 1031));
-  CHECK(!resources.FindData("VIEWS_APPOINTMENT", "NO_SUCH_VIEW", kLanguageEnglishUs));
-  CHECK(!resources.FindData("QVX_SAMPLE", name, kLanguageEnglishUs));
-  CHECK_EQ(RaisedNumber([&] { platform::LoadResData(resources, "VIEWS_TASK", "NONE"); }), 326);
+  EXPECT_TRUE(resources.FindData("views_task", "Reported_Date_(filtered)", kLanguageEnglishUs));
+  EXPECT_TRUE(!resources.FindData("VIEWS_TASK", name, 1031));
+  EXPECT_TRUE(!resources.FindData("VIEWS_APPOINTMENT", "NO_SUCH_VIEW", kLanguageEnglishUs));
+  EXPECT_TRUE(!resources.FindData("QVX_SAMPLE", name, kLanguageEnglishUs));
+  EXPECT_EQ(RaisedNumber([&] { platform::LoadResData(resources, "VIEWS_TASK", "NONE"); }), 326);
 }
 
-WINE_TEST(Resources, TheDllsPicturesComeAsIPictureDisp) {
+TEST(Resources, TheDllsPicturesComeAsIPictureDisp) {
   const HMODULE dll = GetModuleHandleW(Dll().path.c_str());
-  REQUIRE(dll != nullptr);
+  ASSERT_TRUE(dll != nullptr);
   win32::Win32Resources resources(dll);
   const struct {
     const char* name;
     OLE_XSIZE_HIMETRIC himetric;  // 32 pixels: 847, 64 pixels: 1693 at 96 dots per inch
   } rows[] = {{"Report", 847}, {"Withdraw", 847}, {"About", 1693}};
   for (const auto& row : rows) {
-    Note(row.name);
+    SCOPED_TRACE(row.name);
     const Object picture = platform::LoadResPicture(resources, row.name);
     const ComPtr<IPicture> face = PictureOf(picture);
-    REQUIRE(face);
+    ASSERT_TRUE(face);
     SHORT type = 0;
     OLE_XSIZE_HIMETRIC width = 0;
     OLE_YSIZE_HIMETRIC height = 0;
-    CHECK_EQ(face->get_Type(&type), S_OK);
-    CHECK_EQ(type, PICTYPE_BITMAP);
-    CHECK_EQ(face->get_Width(&width), S_OK);
-    CHECK_EQ(width, row.himetric);
-    CHECK_EQ(face->get_Height(&height), S_OK);
-    CHECK_EQ(height, row.himetric);
+    EXPECT_EQ(face->get_Type(&type), S_OK);
+    EXPECT_EQ(type, PICTYPE_BITMAP);
+    EXPECT_EQ(face->get_Width(&width), S_OK);
+    EXPECT_EQ(width, row.himetric);
+    EXPECT_EQ(face->get_Height(&height), S_OK);
+    EXPECT_EQ(height, row.himetric);
   }
-  CHECK(resources.FindPicture("Nothing").IsNothing());
-  CHECK_EQ(RaisedNumber([&] { platform::LoadResPicture(resources, "Nothing"); }), 326);
+  EXPECT_TRUE(resources.FindPicture("Nothing").IsNothing());
+  EXPECT_EQ(RaisedNumber([&] { platform::LoadResPicture(resources, "Nothing"); }), 326);
 }
 
-WINE_TEST(Registry, TheAboutBoxReadsTheMachineHive) {
+TEST(Registry, TheAboutBoxReadsTheMachineHive) {
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Quorvix Wine Tests");
   RegDeleteTreeW(HKEY_CURRENT_USER, L"SOFTWARE\\Quorvix Wine Tests");
   const std::wstring path = L"C:\\Program Files\\Tools\\msinfo32.exe";
-  REQUIRE_EQ(
+  ASSERT_EQ(
       RegSetKeyValueW(HKEY_CURRENT_USER, kTestKeyW, L"PATH", REG_SZ, L"user", 5 * sizeof(wchar_t)),
       ERROR_SUCCESS);
   win32::Win32RegistryApi registry;
   std::string value = "before";
-  CHECK(!fAbout::GetKeyValue(registry, platform::Hive::LocalMachine, kTestKey, "PATH", value));
-  CHECK_EQ(value, std::string());  // the key is only the user's
+  EXPECT_TRUE(
+      !fAbout::GetKeyValue(registry, platform::Hive::LocalMachine, kTestKey, "PATH", value));
+  EXPECT_EQ(value, std::string());  // the key is only the user's
 
-  REQUIRE_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, kTestKeyW, L"PATH", REG_SZ, path.c_str(),
-                             static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t))),
-             ERROR_SUCCESS);
-  CHECK(fAbout::GetKeyValue(registry, platform::Hive::LocalMachine, kTestKey, "PATH", value));
-  CHECK_EQ(value, std::string("C:\\Program Files\\Tools\\msinfo32.exe"));
+  ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, kTestKeyW, L"PATH", REG_SZ, path.c_str(),
+                            static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t))),
+            ERROR_SUCCESS);
+  EXPECT_TRUE(fAbout::GetKeyValue(registry, platform::Hive::LocalMachine, kTestKey, "PATH", value));
+  EXPECT_EQ(value, std::string("C:\\Program Files\\Tools\\msinfo32.exe"));
   value = "before";
-  CHECK(!fAbout::GetKeyValue(registry, platform::Hive::LocalMachine, kTestKey, "NONE", value));
-  CHECK_EQ(value, std::string("before"));
+  EXPECT_TRUE(
+      !fAbout::GetKeyValue(registry, platform::Hive::LocalMachine, kTestKey, "NONE", value));
+  EXPECT_EQ(value, std::string("before"));
 
   // The access the about box asks for opens the machine's key.
   const platform::OpenedKey opened =
       registry.OpenA(platform::Hive::LocalMachine, kTestKey, platform::kKeyAllAccessRead);
-  CHECK_EQ(opened.result, ERROR_SUCCESS);
-  CHECK(static_cast<bool>(opened.key));
+  EXPECT_EQ(opened.result, ERROR_SUCCESS);
+  EXPECT_TRUE(static_cast<bool>(opened.key));
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Quorvix Wine Tests");
   RegDeleteTreeW(HKEY_CURRENT_USER, L"SOFTWARE\\Quorvix Wine Tests");
 }
@@ -152,7 +154,7 @@ WINE_TEST(Registry, TheAboutBoxReadsTheMachineHive) {
 // The settings store's read of a value, once through the wide call alone and
 // once as the size query and the wide read after it: the same answer for
 // every kind of stored data.
-WINE_TEST(Registry, OneWideReadAnswersAsTheSizeQueryAndTheWideReadDid) {
+TEST(Registry, OneWideReadAnswersAsTheSizeQueryAndTheWideReadDid) {
   RegDeleteTreeW(HKEY_CURRENT_USER, L"SOFTWARE\\Quorvix Wine Tests");
   struct Row {
     const char* name;
@@ -176,23 +178,23 @@ WINE_TEST(Registry, OneWideReadAnswersAsTheSizeQueryAndTheWideReadDid) {
   };
   for (const Row& row : rows) {
     const std::wstring name(row.name, row.name + std::strlen(row.name));
-    REQUIRE_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, kTestKeyW, name.c_str(), row.type,
-                               row.data.c_str(), row.bytes),
-               ERROR_SUCCESS);
+    ASSERT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, kTestKeyW, name.c_str(), row.type,
+                              row.data.c_str(), row.bytes),
+              ERROR_SUCCESS);
   }
   win32::Win32RegistryApi registry;
   const platform::OpenedKey opened =
       registry.OpenA(platform::Hive::CurrentUser, kTestKey, KEY_READ);
-  REQUIRE_EQ(opened.result, ERROR_SUCCESS);
+  ASSERT_EQ(opened.result, ERROR_SUCCESS);
   for (const char* name :
        {"Text", "Bare", "Empty", "Nul", "Wide", "Odd", "Large", "Number", "Expand", "Absent"}) {
     const auto once = registry.QueryTextValue(opened.key.get(), name);
     const auto twice = registry.RegistryApi::QueryTextValue(opened.key.get(), name);
-    CHECK_EQ(once.info, twice.info);
-    CHECK_EQ(once.type, twice.type);
-    CHECK_EQ(once.size, twice.size);
-    CHECK_EQ(once.query, twice.query);
-    CHECK_EQ(once.text, twice.text);
+    EXPECT_EQ(once.info, twice.info);
+    EXPECT_EQ(once.type, twice.type);
+    EXPECT_EQ(once.size, twice.size);
+    EXPECT_EQ(once.query, twice.query);
+    EXPECT_EQ(once.text, twice.text);
   }
   RegDeleteTreeW(HKEY_CURRENT_USER, L"SOFTWARE\\Quorvix Wine Tests");
 }

@@ -28,65 +28,65 @@ const AddinDll& CleanDll() {
 
 }  // namespace
 
-WINE_TEST(Registration, WritesTheKeysForTheUserAndUnregistrationRemovesThem) {
+TEST(Registration, WritesTheKeysForTheUserAndUnregistrationRemovesThem) {
   const AddinDll& dll = CleanDll();
   WriteSettings({{L"DBChoice", L"1"}, {L"DBConnectionString", L"Server=db;Database=qvx"}});
-  REQUIRE_EQ(dll.Register(), S_OK);
-  REQUIRE_EQ(dll.Register(), S_OK);  // again: still one registration
+  ASSERT_EQ(dll.Register(), S_OK);
+  ASSERT_EQ(dll.Register(), S_OK);  // again: still one registration
 
-  CHECK_EQ(ReadText(kClassKey, L""), Text(kProgId));
+  EXPECT_EQ(ReadText(kClassKey, L""), Text(kProgId));
   const Text server = ReadText(kClassKey + L"\\InprocServer32", L"");
-  CHECK(server && _wcsicmp(server->c_str(), dll.path.c_str()) == 0);
-  CHECK_EQ(ReadText(kClassKey + L"\\InprocServer32", L"ThreadingModel"), Text(L"Apartment"));
-  CHECK_EQ(ReadText(kClassKey + L"\\ProgID", L""), Text(kProgId));
-  CHECK_EQ(ReadText(kProgIdKey + L"\\CLSID", L""), Text(kClsid));
-  CHECK_EQ(ReadText(kAddinKey, L"FriendlyName"), Text(L"Quorvix Client for Outlook"));
-  CHECK_EQ(ReadText(kAddinKey, L"Description"),
-           Text(L"This client add-in is part of Quorvix for Outlook"));
-  CHECK_EQ(ReadDword(kAddinKey, L"LoadBehavior"), std::optional<DWORD>(3));
+  EXPECT_TRUE(server && _wcsicmp(server->c_str(), dll.path.c_str()) == 0);
+  EXPECT_EQ(ReadText(kClassKey + L"\\InprocServer32", L"ThreadingModel"), Text(L"Apartment"));
+  EXPECT_EQ(ReadText(kClassKey + L"\\ProgID", L""), Text(kProgId));
+  EXPECT_EQ(ReadText(kProgIdKey + L"\\CLSID", L""), Text(kClsid));
+  EXPECT_EQ(ReadText(kAddinKey, L"FriendlyName"), Text(L"Quorvix Client for Outlook"));
+  EXPECT_EQ(ReadText(kAddinKey, L"Description"),
+            Text(L"This client add-in is part of Quorvix for Outlook"));
+  EXPECT_EQ(ReadDword(kAddinKey, L"LoadBehavior"), std::optional<DWORD>(3));
   // Per user only: nothing for the whole machine.
-  CHECK(!KeyExists(kClassKey, HKEY_LOCAL_MACHINE));
-  CHECK(!KeyExists(kAddinKey, HKEY_LOCAL_MACHINE));
+  EXPECT_TRUE(!KeyExists(kClassKey, HKEY_LOCAL_MACHINE));
+  EXPECT_TRUE(!KeyExists(kAddinKey, HKEY_LOCAL_MACHINE));
 
-  CHECK_EQ(dll.Unregister(), S_OK);
-  CHECK(!KeyExists(kClassKey));
-  CHECK(!KeyExists(kProgIdKey));
-  CHECK(!KeyExists(kAddinKey));
+  EXPECT_EQ(dll.Unregister(), S_OK);
+  EXPECT_TRUE(!KeyExists(kClassKey));
+  EXPECT_TRUE(!KeyExists(kProgIdKey));
+  EXPECT_TRUE(!KeyExists(kAddinKey));
   // The user's settings stay.
-  CHECK_EQ(ReadText(kSettingsKey, L"DBChoice"), Text(L"1"));
-  CHECK_EQ(ReadText(kSettingsKey, L"DBConnectionString"), Text(L"Server=db;Database=qvx"));
-  CHECK_EQ(dll.Unregister(), S_OK);  // nothing left to remove is no failure
+  EXPECT_EQ(ReadText(kSettingsKey, L"DBChoice"), Text(L"1"));
+  EXPECT_EQ(ReadText(kSettingsKey, L"DBConnectionString"), Text(L"Server=db;Database=qvx"));
+  EXPECT_EQ(dll.Unregister(), S_OK);  // nothing left to remove is no failure
   DeleteTree(kSettingsKey);
 }
 
-WINE_TEST(Registration, ForeignEntriesKeepTheirKey) {
+TEST(Registration, ForeignEntriesKeepTheirKey) {
   const AddinDll& dll = CleanDll();
-  REQUIRE_EQ(dll.Register(), S_OK);
+  ASSERT_EQ(dll.Register(), S_OK);
   WriteText(kClassKey + L"\\TreatAs", L"", L"{00000000-0000-0000-0000-000000000001}");
 
-  CHECK_EQ(dll.Unregister(), S_FALSE);
-  CHECK(KeyExists(kClassKey + L"\\TreatAs"));
-  CHECK(!KeyExists(kClassKey + L"\\InprocServer32"));
-  CHECK(!KeyExists(kProgIdKey));
-  CHECK(!KeyExists(kAddinKey));
+  EXPECT_EQ(dll.Unregister(), S_FALSE);
+  EXPECT_TRUE(KeyExists(kClassKey + L"\\TreatAs"));
+  EXPECT_TRUE(!KeyExists(kClassKey + L"\\InprocServer32"));
+  EXPECT_TRUE(!KeyExists(kProgIdKey));
+  EXPECT_TRUE(!KeyExists(kAddinKey));
   DeleteTree(kClassKey);
 }
 
-WINE_TEST(Registration, AHostCreatesTheAddinThroughThePerUserKeys) {
+TEST(Registration, AHostCreatesTheAddinThroughThePerUserKeys) {
   const AddinDll& dll = CleanDll();
-  REQUIRE_EQ(dll.Register(), S_OK);
+  ASSERT_EQ(dll.Register(), S_OK);
   // Windows merges HKCU\Software\Classes into HKEY_CLASSES_ROOT; Wine 8 does not.
   CLSID byProgId{};
   CLSID expected{};
   CLSIDFromString(kClsid, &expected);
   if (const HRESULT hr = CLSIDFromProgID(kProgId, &byProgId); SUCCEEDED(hr)) {
-    CHECK(IsEqualCLSID(byProgId, expected));
+    EXPECT_TRUE(IsEqualCLSID(byProgId, expected));
   } else {
-    Note("CLSIDFromProgID does not see per-user classes here: " + Describe(hr) +
+    Note("CLSIDFromProgID does not see per-user classes here: " + std::to_string(hr) +
          "; the add-in is created through the keys and DllGetClassObject");
   }
-  CHECK(CreateRegisteredAddin().As<com::IRibbonExtensibility>(com::IID_IRibbonExtensibility));
-  CHECK_EQ(dll.Unregister(), S_OK);
+  EXPECT_TRUE(CreateRegisteredAddin().As<com::IRibbonExtensibility>(com::IID_IRibbonExtensibility));
+  EXPECT_EQ(dll.Unregister(), S_OK);
 }
 
 }  // namespace qvx::winetest

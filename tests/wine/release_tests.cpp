@@ -49,15 +49,15 @@ void SetOfficeBitness(const wchar_t* bitness) {
   RegDeleteTreeW(HKEY_LOCAL_MACHINE, kOutlookKey);
   if (bitness == nullptr) return;
   const DWORD bytes = static_cast<DWORD>((wcslen(bitness) + 1) * sizeof(wchar_t));
-  REQUIRE_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, kOutlookKey, L"Bitness", REG_SZ, bitness, bytes),
-             ERROR_SUCCESS);
+  REQUIRE(RegSetKeyValueW(HKEY_LOCAL_MACHINE, kOutlookKey, L"Bitness", REG_SZ, bitness, bytes) ==
+          ERROR_SUCCESS);
 }
 
 }  // namespace
 
-WINE_TEST(Release, TheScriptsRegisterAndRemoveTheUnpackedDllForTheUser) {
-  REQUIRE(GetFileAttributesW((ReleaseFolder() + L"install.cmd").c_str()) !=
-          INVALID_FILE_ATTRIBUTES);
+TEST(Release, TheScriptsRegisterAndRemoveTheUnpackedDllForTheUser) {
+  ASSERT_TRUE(GetFileAttributesW((ReleaseFolder() + L"install.cmd").c_str()) !=
+              INVALID_FILE_ATTRIBUTES);
   const std::wstring dll = ReleaseFolder() + kBitness + L"\\QVXClient.dll";
   const struct {
     const char* why;
@@ -70,20 +70,20 @@ WINE_TEST(Release, TheScriptsRegisterAndRemoveTheUnpackedDllForTheUser) {
       {"neither: nothing is registered", L"", nullptr, 2},
   };
   for (const auto& row : rows) {
-    Note(row.why);
+    SCOPED_TRACE(row.why);
     Dll().Unregister();
     SetOfficeBitness(row.officeBitness);
-    CHECK_EQ(RunScript(L"install.cmd", row.argument), row.exitCode);
+    EXPECT_EQ(RunScript(L"install.cmd", row.argument), row.exitCode);
     const auto server = ReadText(kServerKey, L"");
     if (row.exitCode == 0) {
-      CHECK(server && _wcsicmp(server->c_str(), dll.c_str()) == 0);
-      CHECK_EQ(ReadDword(kAddinKey, L"LoadBehavior"), std::optional<DWORD>(3));
-      CHECK(!KeyExists(kServerKey, HKEY_LOCAL_MACHINE));
+      EXPECT_TRUE(server && _wcsicmp(server->c_str(), dll.c_str()) == 0);
+      EXPECT_EQ(ReadDword(kAddinKey, L"LoadBehavior"), std::optional<DWORD>(3));
+      EXPECT_TRUE(!KeyExists(kServerKey, HKEY_LOCAL_MACHINE));
     } else {
-      CHECK(!server);
+      EXPECT_TRUE(!server);
     }
-    CHECK_EQ(RunScript(L"uninstall.cmd", row.argument), row.exitCode);
-    CHECK(row.exitCode != 0 || !KeyExists(kServerKey));
+    EXPECT_EQ(RunScript(L"uninstall.cmd", row.argument), row.exitCode);
+    EXPECT_TRUE(row.exitCode != 0 || !KeyExists(kServerKey));
   }
   SetOfficeBitness(nullptr);
   Dll().Unregister();

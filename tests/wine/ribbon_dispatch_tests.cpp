@@ -26,105 +26,106 @@ VARIANT Arg(VARTYPE type, IDispatch* object = nullptr) {
 
 }  // namespace
 
-WINE_TEST(RibbonDispatch, BadNamesPointersAndArgumentsGiveErrors) {
+TEST(RibbonDispatch, BadNamesPointersAndArgumentsGiveErrors) {
   AddinSession session;
   ComPtr<IDispatch> dispatch = session.Dispatch();
-  REQUIRE(dispatch);
+  ASSERT_TRUE(dispatch);
   IDispatch* d = dispatch.get();
   DISPID id = 0;
   std::wstring name = L"OnLoad";
   LPOLESTR names[] = {name.data()};
   LPOLESTR noName[] = {nullptr};
   LPOLESTR unknown[] = {const_cast<LPOLESTR>(L"NoSuchCallback")};
-  CHECK_EQ(d->GetIDsOfNames(IID_NULL, unknown, 1, 0, &id), DISP_E_UNKNOWNNAME);
-  CHECK_EQ(id, DISPID_UNKNOWN);
+  EXPECT_EQ(d->GetIDsOfNames(IID_NULL, unknown, 1, 0, &id), DISP_E_UNKNOWNNAME);
+  EXPECT_EQ(id, DISPID_UNKNOWN);
   VARIANT number = Arg(VT_I4);
   DISPPARAMS params{&number, nullptr, 1, 0};
   UINT argError = 0;
-  CHECK_EQ(d->Invoke(424242, IID_NULL, 0, DISPATCH_METHOD, &params, nullptr, nullptr, &argError),
-           DISP_E_MEMBERNOTFOUND);
-  CHECK_EQ(d->Invoke(1000, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr),
-           E_POINTER);
-  CHECK_EQ(d->GetIDsOfNames(IID_NULL, nullptr, 1, 0, &id), E_POINTER);
-  CHECK_EQ(d->GetIDsOfNames(IID_NULL, names, 1, 0, nullptr), E_POINTER);
-  CHECK_EQ(d->GetIDsOfNames(IID_NULL, noName, 1, 0, &id), E_POINTER);
-  CHECK_EQ(d->GetIDsOfNames(IID_IDispatch, names, 1, 0, &id), DISP_E_UNKNOWNINTERFACE);
-  CHECK_EQ(d->GetTypeInfoCount(nullptr), E_POINTER);
+  EXPECT_EQ(d->Invoke(424242, IID_NULL, 0, DISPATCH_METHOD, &params, nullptr, nullptr, &argError),
+            DISP_E_MEMBERNOTFOUND);
+  EXPECT_EQ(d->Invoke(1000, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr),
+            E_POINTER);
+  EXPECT_EQ(d->GetIDsOfNames(IID_NULL, nullptr, 1, 0, &id), E_POINTER);
+  EXPECT_EQ(d->GetIDsOfNames(IID_NULL, names, 1, 0, nullptr), E_POINTER);
+  EXPECT_EQ(d->GetIDsOfNames(IID_NULL, noName, 1, 0, &id), E_POINTER);
+  EXPECT_EQ(d->GetIDsOfNames(IID_IDispatch, names, 1, 0, &id), DISP_E_UNKNOWNINTERFACE);
+  EXPECT_EQ(d->GetTypeInfoCount(nullptr), E_POINTER);
   UINT count = 7;
-  CHECK_EQ(d->GetTypeInfoCount(&count), S_OK);
-  CHECK_EQ(count, 0u);
-  CHECK_EQ(d->GetTypeInfo(0, 0, nullptr), E_POINTER);
+  EXPECT_EQ(d->GetTypeInfoCount(&count), S_OK);
+  EXPECT_EQ(count, 0u);
+  EXPECT_EQ(d->GetTypeInfo(0, 0, nullptr), E_POINTER);
 
   // OnLoad by any casing, with too few or too many arguments or one of the wrong type.
   for (const wchar_t* casing : {L"onload", L"ONLOAD", L"oNlOaD"}) {
-    CHECK_EQ(InvokeByName(d, casing, {}), DISP_E_BADPARAMCOUNT);
+    EXPECT_EQ(InvokeByName(d, casing, {}), DISP_E_BADPARAMCOUNT);
   }
-  CHECK_EQ(InvokeByName(d, name, {Arg(VT_DISPATCH)}), E_INVALIDARG);  // a null object
-  CHECK_EQ(InvokeByName(d, name, {Arg(VT_I4), Arg(VT_I4)}), DISP_E_BADPARAMCOUNT);
-  CHECK_EQ(InvokeByName(d, name, {Arg(VT_RECORD)}), DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(InvokeByName(d, name, {Arg(VT_DISPATCH)}), E_INVALIDARG);  // a null object
+  EXPECT_EQ(InvokeByName(d, name, {Arg(VT_I4), Arg(VT_I4)}), DISP_E_BADPARAMCOUNT);
+  EXPECT_EQ(InvokeByName(d, name, {Arg(VT_RECORD)}), DISP_E_TYPEMISMATCH);
 
   com::IDTExtensibility2* addin = session.addin();
-  CHECK_EQ(addin->OnConnection(nullptr, com::ext_cm_Startup, nullptr, nullptr), E_POINTER);
+  EXPECT_EQ(addin->OnConnection(nullptr, com::ext_cm_Startup, nullptr, nullptr), E_POINTER);
   ComPtr<com::IRibbonExtensibility> ribbon;
-  REQUIRE_EQ(addin->QueryInterface(com::IID_IRibbonExtensibility, ribbon.PutVoid()), S_OK);
+  ASSERT_EQ(addin->QueryInterface(com::IID_IRibbonExtensibility, ribbon.PutVoid()), S_OK);
   win32::Bstr explorer(L"Microsoft.Outlook.Explorer");
-  CHECK_EQ(ribbon->GetCustomUI(explorer.get(), nullptr), E_POINTER);
+  EXPECT_EQ(ribbon->GetCustomUI(explorer.get(), nullptr), E_POINTER);
   // A ribbon the add-in does not customise: S_OK and no markup.
   win32::Bstr contact(L"Microsoft.Outlook.Contact");
   BSTR markup = reinterpret_cast<BSTR>(1);
-  CHECK_EQ(ribbon->GetCustomUI(contact.get(), &markup), S_OK);
-  CHECK(markup == nullptr);
+  EXPECT_EQ(ribbon->GetCustomUI(contact.get(), &markup), S_OK);
+  EXPECT_TRUE(markup == nullptr);
 }
 
-WINE_TEST(RibbonDispatch, OnLoadHandsTheRibbonToTheAddin) {
+TEST(RibbonDispatch, OnLoadHandsTheRibbonToTheAddin) {
   WriteSettings({{L"DBChoice", L"1"}});
   AddinSession session;
   session.Start();
   // Office's IRibbonUI, as a late-bound object of the host.
   auto ribbonUi = FakeRibbonUi();
   ComPtr<IDispatch> face = win32::MakeDispatchFace(ribbonUi);
-  CHECK_EQ(InvokeByName(session.Dispatch().get(), L"oNlOaD", {Arg(VT_DISPATCH, face.get())}), S_OK);
+  EXPECT_EQ(InvokeByName(session.Dispatch().get(), L"oNlOaD", {Arg(VT_DISPATCH, face.get())}),
+            S_OK);
 
   // The manager's "settings changed" makes the add-in invalidate its ribbon.
-  CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Manager", 0), 0u);
-  CHECK(PumpUntil([&] { return ribbonUi->CallCount("Invalidate") >= 1; }));
-  CHECK(Watcher().Take().empty());
+  EXPECT_EQ(PostFromAnotherProcess(L"ZNB_QVX_Manager", 0), 0u);
+  EXPECT_TRUE(PumpUntil([&] { return ribbonUi->CallCount("Invalidate") >= 1; }));
+  EXPECT_TRUE(Watcher().Take().empty());
 }
 
 // A callback that fails without a trap of its own answers with the failure in
 // EXCEPINFO, as Office expects of a failing callback; the add-in reports
 // nothing itself.
-WINE_TEST(RibbonDispatch, AnUntrappedFailureAnswersWithItsException) {
+TEST(RibbonDispatch, AnUntrappedFailureAnswersWithItsException) {
   AddinSession session;
   win32::Bstr notARibbon(L"not a ribbon");
   VARIANT text = Arg(VT_BSTR);
   text.bstrVal = notARibbon.get();
   EXCEPINFO info{};
-  CHECK_EQ(InvokeByName(session.Dispatch().get(), L"OnLoad", {text}, nullptr, &info),
-           DISP_E_EXCEPTION);
-  CHECK_EQ(info.wCode, 424);
-  CHECK(info.bstrDescription != nullptr && SysStringLen(info.bstrDescription) > 0);
+  EXPECT_EQ(InvokeByName(session.Dispatch().get(), L"OnLoad", {text}, nullptr, &info),
+            DISP_E_EXCEPTION);
+  EXPECT_EQ(info.wCode, 424);
+  EXPECT_TRUE(info.bstrDescription != nullptr && SysStringLen(info.bstrDescription) > 0);
   SysFreeString(info.bstrSource);
   SysFreeString(info.bstrDescription);
   SysFreeString(info.bstrHelpFile);
-  CHECK(Watcher().Take().empty());
+  EXPECT_TRUE(Watcher().Take().empty());
 }
 
 // The backstage's About task opens the about box as a real window, with the
 // build, the tool's name and the picture from the DLL's resources.
-WINE_TEST(RibbonDispatch, TheAboutTaskOpensTheAboutBox) {
+TEST(RibbonDispatch, TheAboutTaskOpensTheAboutBox) {
   WriteSettings({{L"DBChoice", L"1"}});
   AddinSession session;
   session.Start();
-  CHECK_EQ(session.ClickRibbon("cmdAbout"), S_OK);
+  EXPECT_EQ(session.ClickRibbon("cmdAbout"), S_OK);
   const std::vector<SeenDialog> seen = Watcher().Take();
-  REQUIRE_EQ(seen.size(), size_t{1});
-  CHECK(seen[0].caption == L"About");
-  CHECK(!seen[0].messageBox);
-  CHECK(seen[0].Shows(L"Quorvix for Outlook"));
-  CHECK(seen[0].Shows(L"Build 1."));
-  CHECK(seen[0].Shows(L"Client Tool"));
-  CHECK_EQ(seen[0].pictures, 1);
+  ASSERT_EQ(seen.size(), size_t{1});
+  EXPECT_TRUE(seen[0].caption == L"About");
+  EXPECT_TRUE(!seen[0].messageBox);
+  EXPECT_TRUE(seen[0].Shows(L"Quorvix for Outlook"));
+  EXPECT_TRUE(seen[0].Shows(L"Build 1."));
+  EXPECT_TRUE(seen[0].Shows(L"Client Tool"));
+  EXPECT_EQ(seen[0].pictures, 1);
 }
 
 }  // namespace qvx::winetest

@@ -13,55 +13,55 @@
 
 namespace qvx::winetest {
 
-WINE_TEST(Shutdown, BeginShutdownAndDisconnectionCloseTheListener) {
+TEST(Shutdown, BeginShutdownAndDisconnectionCloseTheListener) {
   WriteSettings({{L"DBChoice", L"1"}, {L"DBConnectionString", L""}});
   ClearJournal();
   AddinSession session;
   // The host's own objects: its Application and COMAddIn faces.
   const long hostObjects = win32::ModuleObjectCount();
   session.Start();
-  REQUIRE(FindClientWindow() != nullptr);
+  ASSERT_TRUE(FindClientWindow() != nullptr);
 
-  CHECK_EQ(session.BeginShutdown(), S_OK);
-  CHECK(FindClientWindow() == nullptr);
-  CHECK_EQ(session.Disconnect(), S_OK);
-  CHECK_EQ(session.Disconnect(), S_OK);                        // a second tear-down does no harm
-  CHECK_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 1), 1u);  // no window to post to
+  EXPECT_EQ(session.BeginShutdown(), S_OK);
+  EXPECT_TRUE(FindClientWindow() == nullptr);
+  EXPECT_EQ(session.Disconnect(), S_OK);
+  EXPECT_EQ(session.Disconnect(), S_OK);                        // a second tear-down does no harm
+  EXPECT_EQ(PostFromAnotherProcess(L"ZNB_QVX_Client", 1), 1u);  // no window to post to
 
   // Every event subscription has been given back.
-  CHECK_EQ(session.At("Explorers")->HandlerCount("NewExplorer"), size_t{0});
-  CHECK_EQ(session.At("Inspectors")->HandlerCount("NewInspector"), size_t{0});
+  EXPECT_EQ(session.At("Explorers")->HandlerCount("NewExplorer"), size_t{0});
+  EXPECT_EQ(session.At("Inspectors")->HandlerCount("NewInspector"), size_t{0});
   session.Release();
-  CHECK_EQ(Dll().CanUnloadNow(), S_OK);
+  EXPECT_EQ(Dll().CanUnloadNow(), S_OK);
   // The add-in holds none of the host's objects any more.
-  CHECK_EQ(win32::ModuleObjectCount(), hostObjects);
-  CHECK(FinishedLaunches().empty());
-  CHECK(Watcher().Take().empty());
+  EXPECT_EQ(win32::ModuleObjectCount(), hostObjects);
+  EXPECT_TRUE(FinishedLaunches().empty());
+  EXPECT_TRUE(Watcher().Take().empty());
 }
 
 // The add-in follows the host's events through connection points until the
 // host quits and releases it without shutdown events.
-WINE_TEST(Shutdown, TheHostQuitsAndReleasesTheAddinWithoutShutdownEvents) {
+TEST(Shutdown, TheHostQuitsAndReleasesTheAddinWithoutShutdownEvents) {
   WriteSettings({{L"DBChoice", L"1"}, {L"DBConnectionString", L""}});
   AddinSession session;
   session.Start();
-  REQUIRE(FindClientWindow() != nullptr);
+  ASSERT_TRUE(FindClientWindow() != nullptr);
   // The mail library is no registered class here: the add-in asks the host.
   const auto& asked = session.createRequests();
-  CHECK(std::find(asked.begin(), asked.end(), "ZNBLib.ZNBMAPIUtils") != asked.end());
+  EXPECT_TRUE(std::find(asked.begin(), asked.end(), "ZNBLib.ZNBMAPIUtils") != asked.end());
   auto explorers = session.At("Explorers");
-  CHECK_EQ(explorers->HandlerCount("NewExplorer"), size_t{1});
-  CHECK_EQ(session.At("Inspectors")->HandlerCount("NewInspector"), size_t{1});
+  EXPECT_EQ(explorers->HandlerCount("NewExplorer"), size_t{1});
+  EXPECT_EQ(session.At("Inspectors")->HandlerCount("NewInspector"), size_t{1});
   const int before = explorers->CallCount("Count");
   session.world().OpenExplorer(session.world().Tasks());
-  CHECK(explorers->CallCount("Count") > before);  // the NewExplorer handler counts them
+  EXPECT_TRUE(explorers->CallCount("Count") > before);  // the NewExplorer handler counts them
   session.world().Quit();
   PumpOnce();
   session.Release();
-  CHECK(FindClientWindow() == nullptr);
-  CHECK_EQ(explorers->HandlerCount("NewExplorer"), size_t{0});
-  CHECK_EQ(Dll().CanUnloadNow(), S_OK);
-  CHECK(Watcher().Take().empty());
+  EXPECT_TRUE(FindClientWindow() == nullptr);
+  EXPECT_EQ(explorers->HandlerCount("NewExplorer"), size_t{0});
+  EXPECT_EQ(Dll().CanUnloadNow(), S_OK);
+  EXPECT_TRUE(Watcher().Take().empty());
 }
 
 }  // namespace qvx::winetest

@@ -14,7 +14,7 @@
 
 namespace qvx::winetest {
 
-WINE_TEST(Startup, TheSettingsDecideWhichSectionsStart) {
+TEST(Startup, TheSettingsDecideWhichSectionsStart) {
   using Settings = std::vector<std::pair<std::wstring, std::wstring>>;
   const Settings allFlags = {{L"AutoSyncToDB", L"-1"},
                              {L"ReportIemsOnDueDateLapsedAutomatically", L"-1"},
@@ -49,8 +49,9 @@ WINE_TEST(Startup, TheSettingsDecideWhichSectionsStart) {
     WriteSettings(c.settings);
     AddinSession session;
     session.Start();
-    if (!CHECK_EQ(FinishedLaunches(), c.sections)) Note(c.what);
-    if (!CHECK(Watcher().Take().empty())) Note(c.what);
+    SCOPED_TRACE(c.what);
+    EXPECT_EQ(FinishedLaunches(), c.sections);
+    EXPECT_TRUE(Watcher().Take().empty());
   }
 }
 

@@ -94,106 +94,106 @@ std::shared_ptr<sim::SimBarControl> BarControl(sim::SimExplorer& explorer, const
 
 }  // namespace
 
-WINE_TEST(CommandBars, TheUserTagsOpensFieldsReportsAndShutsDownThroughConnectionPoints) {
+TEST(CommandBars, TheUserTagsOpensFieldsReportsAndShutsDownThroughConnectionPoints) {
   TaggingDesk desk("11.0.0.0");
   auto project = std::dynamic_pointer_cast<sim::SimBarComboBox>(
       BarControl(*desk.explorer, "Quorvix", {"Project"}));
   auto publish = std::dynamic_pointer_cast<sim::SimBarButton>(
       BarControl(*desk.explorer, "Quorvix", {"Publish"}));
-  REQUIRE(project != nullptr);
-  REQUIRE(publish != nullptr);
-  CHECK(project->visible());
+  ASSERT_TRUE(project != nullptr);
+  ASSERT_TRUE(publish != nullptr);
+  EXPECT_TRUE(project->visible());
 
   // The Change of the project box tags the selected item.
   project->UserPick(1);
-  CHECK_EQ(desk.Property("ProjectValue"), std::string("Alpha"));
+  EXPECT_EQ(desk.Property("ProjectValue"), std::string("Alpha"));
 
   // "All Fields..." opens the real dialog; the user closes it unsaved.
   auto allFields = std::dynamic_pointer_cast<sim::SimBarButton>(
       BarControl(*desk.explorer, "Quorvix", {"All Fields..."}));
-  REQUIRE(allFields != nullptr);
+  ASSERT_TRUE(allFields != nullptr);
   Watcher().Take();
   allFields->UserClick();
   const std::vector<SeenDialog> fields = Watcher().Take();
-  REQUIRE_EQ(fields.size(), size_t{1});
-  CHECK(fields[0].caption == L"All Project Fields" && !fields[0].messageBox);
-  CHECK_EQ(desk.Property("ProjectValue"), std::string("Alpha"));
+  ASSERT_EQ(fields.size(), size_t{1});
+  EXPECT_TRUE(fields[0].caption == L"All Project Fields" && !fields[0].messageBox);
+  EXPECT_EQ(desk.Property("ProjectValue"), std::string("Alpha"));
 
   // The Click reaches the report command.
   publish->UserClick();
-  CHECK_EQ(FinishedLaunches(), (std::vector<std::string>{desk.ReportLine()}));
+  EXPECT_EQ(FinishedLaunches(), (std::vector<std::string>{desk.ReportLine()}));
   Watcher().Take();
 
   // The menu's Shutdown asks, is answered Yes, and tears the add-in down.
   auto shutdown = std::dynamic_pointer_cast<sim::SimBarButton>(
       BarControl(*desk.explorer, "Menu Bar", {"Quorvix Client", "Shutdown"}));
-  REQUIRE(shutdown != nullptr);
-  REQUIRE(FindClientWindow() != nullptr);
+  ASSERT_TRUE(shutdown != nullptr);
+  ASSERT_TRUE(FindClientWindow() != nullptr);
   shutdown->UserClick();
-  CHECK(FindClientWindow() == nullptr);
-  CHECK_EQ(desk.session.At("Explorers")->HandlerCount("NewExplorer"), size_t{0});
-  CHECK(BarControl(*desk.explorer, "Quorvix", {"Publish"}) == nullptr);
+  EXPECT_TRUE(FindClientWindow() == nullptr);
+  EXPECT_EQ(desk.session.At("Explorers")->HandlerCount("NewExplorer"), size_t{0});
+  EXPECT_TRUE(BarControl(*desk.explorer, "Quorvix", {"Publish"}) == nullptr);
   const std::vector<SeenDialog> seen = Watcher().Take();
-  CHECK_EQ(seen.size(), size_t{1});
-  CHECK(!seen.empty() && seen[0].messageBox);
+  EXPECT_EQ(seen.size(), size_t{1});
+  EXPECT_TRUE(!seen.empty() && seen[0].messageBox);
 }
 
 // The explorer's markup, kept for the schema test; the views menu's content
 // is asked by name at each drop; its entry makes the prepared view in the
 // host's calendar at the first choice and shows it. Tagging and reporting
 // from the ribbon through IDispatch are HostCalls'.
-WINE_TEST(Ribbon, TheViewsMenuProvisionsAViewThroughIDispatch) {
+TEST(Ribbon, TheViewsMenuProvisionsAViewThroughIDispatch) {
   TaggingDesk desk("16.0.0.0");
   DllRibbonAddin ribbon(desk.session);
   const std::string markup = ribbon.GetCustomUI("Microsoft.Outlook.Explorer");
-  CHECK(markup.rfind("<customUI", 0) == 0);
-  CHECK(markup.find("id=\"cboProjectCal\"") != std::string::npos);
+  EXPECT_TRUE(markup.rfind("<customUI", 0) == 0);
+  EXPECT_TRUE(markup.find("id=\"cboProjectCal\"") != std::string::npos);
   KeepForTheSchemaTest(markup, L"explorer-16.xml");
   const Object context = desk.explorer->AsObject();
   std::vector<Variant> drop{Variant(RibbonControl("dnViewsCal", context))};
   Variant content;
-  REQUIRE(ribbon.Call("GetContentXML", drop, content) == CallbackOutcome::Done);
+  ASSERT_TRUE(ribbon.Call("GetContentXML", drop, content) == CallbackOutcome::Done);
   const std::string menu = content.ToText();
-  CHECK(menu.rfind("<menu xmlns=\"http://schemas.microsoft.com/office/2009/07/customui\">", 0) ==
-        0);
-  CHECK(menu.find("<button id=\"cmdDefinedView10\" label=\"Reported Items (Filtered)\"") !=
-        std::string::npos);
+  EXPECT_TRUE(
+      menu.rfind("<menu xmlns=\"http://schemas.microsoft.com/office/2009/07/customui\">", 0) == 0);
+  EXPECT_TRUE(menu.find("<button id=\"cmdDefinedView10\" label=\"Reported Items (Filtered)\"") !=
+              std::string::npos);
 
   const std::string name = "Reported Items (Filtered)";
   std::vector<Variant> choice{Variant(RibbonControl("cmdDefinedView10", context, name))};
   Variant none;
-  REQUIRE(ribbon.Call("ExecuteView", choice, none) == CallbackOutcome::Done);
+  ASSERT_TRUE(ribbon.Call("ExecuteView", choice, none) == CallbackOutcome::Done);
   sim::SimViews& views = desk.session.world().Calendar()->views();
-  REQUIRE(views.current() != nullptr);
-  CHECK_EQ(views.current()->name(), name);
-  CHECK(views.current()->xml().find("<viewname>") != std::string::npos);
-  CHECK(Watcher().Take().empty());
+  ASSERT_TRUE(views.current() != nullptr);
+  EXPECT_EQ(views.current()->name(), name);
+  EXPECT_TRUE(views.current()->xml().find("<viewname>") != std::string::npos);
+  EXPECT_TRUE(Watcher().Take().empty());
 }
 
 // Outlook 2007 shows the add-in's own pictures in the inspector's ribbon,
 // asked for by name through loadImage.
-WINE_TEST(Ribbon, GetImagesAnswersPicturesOnAnOldRibbonHost) {
+TEST(Ribbon, GetImagesAnswersPicturesOnAnOldRibbonHost) {
   TaggingDesk desk("12.0.0.0");
   DllRibbonAddin ribbon(desk.session);
   const std::string markup = ribbon.GetCustomUI("Microsoft.Outlook.Appointment");
   KeepForTheSchemaTest(markup, L"appointment-12.xml");
-  CHECK(markup.find("loadImage=\"getImages\"") != std::string::npos);
-  CHECK(markup.find("image=\"Report\"") != std::string::npos);
+  EXPECT_TRUE(markup.find("loadImage=\"getImages\"") != std::string::npos);
+  EXPECT_TRUE(markup.find("image=\"Report\"") != std::string::npos);
   for (const char* name : {"Report", "Withdraw"}) {
     std::vector<Variant> args{Variant(name)};
     Variant picture;
-    REQUIRE(ribbon.Call("getImages", args, picture) == CallbackOutcome::Done);
-    REQUIRE(picture.IsObject());
+    ASSERT_TRUE(ribbon.Call("getImages", args, picture) == CallbackOutcome::Done);
+    ASSERT_TRUE(picture.IsObject());
     ComPtr<IDispatch> dispatch = win32::DispatchOf(picture.ToObject());
     ComPtr<IPicture> ole;
-    REQUIRE(dispatch && SUCCEEDED(dispatch->QueryInterface(IID_IPicture, ole.PutVoid())));
+    ASSERT_TRUE(dispatch && SUCCEEDED(dispatch->QueryInterface(IID_IPicture, ole.PutVoid())));
     OLE_HANDLE handle = 0;
-    CHECK(SUCCEEDED(ole->get_Handle(&handle)) && handle != 0);
+    EXPECT_TRUE(SUCCEEDED(ole->get_Handle(&handle)) && handle != 0);
   }
   std::vector<Variant> unknown{Variant("Elsewhere")};
   Variant nothing;
-  CHECK(ribbon.Call("getImages", unknown, nothing) == CallbackOutcome::Done);
-  CHECK(!nothing.IsObject() || nothing.ToObject().IsNothing());
+  EXPECT_TRUE(ribbon.Call("getImages", unknown, nothing) == CallbackOutcome::Done);
+  EXPECT_TRUE(!nothing.IsObject() || nothing.ToObject().IsNothing());
 }
 
 }  // namespace qvx::winetest

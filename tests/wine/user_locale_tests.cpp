@@ -46,14 +46,14 @@ int32_t FailureNumber(void (*convert)()) {
 
 void CheckLocale(const LocaleCase& c) {
   WriteSettings({{L"LastReported", c.lastReported}});
-  CHECK(
+  EXPECT_TRUE(
       SameSecond(LocalAddin().s.main.Settings().LastReported, ComposeDate({2026, 3, 2, 9, 5, 7})));
   {
     // Text that is no date here leaves the value as it was, and nobody is told.
     WriteSettings({{L"LastReported", c.unreadable}});
     LocalAddin local;
-    CHECK(local.s.main.Settings().LastReported == kEmptyDate);
-    CHECK(local.failures->empty());
+    EXPECT_TRUE(local.s.main.Settings().LastReported == kEmptyDate);
+    EXPECT_TRUE(local.failures->empty());
   }
 
   WriteSettings({{L"AskForConfirmationBeforeReporting", L"0"}});
@@ -64,42 +64,42 @@ void CheckLocale(const LocaleCase& c) {
   auto occurrence = local.host.Occurrence(*series, ComposeDate({2026, 3, 9, 14, 30, 0}));
   ClearJournal();
   ReportToDB(local.s, "STORE", occurrence->AsObject());
-  CHECK_EQ(FinishedLaunches(),
-           std::vector<std::string>{"0|STORE|" + occurrence->EntryId() + ";" + c.occurrence});
-  CHECK(local.failures->empty());
-  CHECK(Watcher().Take().empty());
+  EXPECT_EQ(FinishedLaunches(),
+            std::vector<std::string>{"0|STORE|" + occurrence->EntryId() + ";" + c.occurrence});
+  EXPECT_TRUE(local.failures->empty());
+  EXPECT_TRUE(Watcher().Take().empty());
 }
 
 }  // namespace
 
-WINE_TEST(UserLocale, German) {
+TEST(UserLocale, German) {
   InUserLocale("de_DE.UTF-8", 0x0407, "UserLocale.German", [] {
     // Windows writes German dates with two-digit days and months; Wine's
     // locale data does not, so the user's format says it here, for this run.
     wchar_t before[80] = {};
-    REQUIRE(GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, before, 80) > 0);
-    REQUIRE(SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, L"dd.MM.yyyy"));
+    ASSERT_TRUE(GetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, before, 80) > 0);
+    ASSERT_TRUE(SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, L"dd.MM.yyyy"));
     struct Restore {
       const wchar_t* format;
       ~Restore() { SetLocaleInfoW(LOCALE_USER_DEFAULT, LOCALE_SSHORTDATE, format); }
     } restore{before};
     CheckLocale({L"02.03.2026 09:05:07", L"31.02.2026 09:05:07", "09.03.2026 14:30:00"});
     // Numbers: a decimal comma; text the locale cannot read is a type mismatch.
-    CHECK(Variant("1,5").ToDouble() == 1.5);
-    CHECK_EQ(Variant(2.5).ToText(), std::string("2,5"));
-    CHECK(Variant("1,5").IsNumeric());
-    CHECK(!Variant("1,5x").IsNumeric());
-    CHECK_EQ(FailureNumber([] { Variant("1,5x").ToDouble(); }), err::kTypeMismatch);
-    CHECK_EQ(Variant("&HFFFF").ToInteger(), int16_t{-1});
+    EXPECT_TRUE(Variant("1,5").ToDouble() == 1.5);
+    EXPECT_EQ(Variant(2.5).ToText(), std::string("2,5"));
+    EXPECT_TRUE(Variant("1,5").IsNumeric());
+    EXPECT_TRUE(!Variant("1,5x").IsNumeric());
+    EXPECT_EQ(FailureNumber([] { Variant("1,5x").ToDouble(); }), err::kTypeMismatch);
+    EXPECT_EQ(Variant("&HFFFF").ToInteger(), int16_t{-1});
   });
 }
 
-WINE_TEST(UserLocale, EnglishUnitedKingdom) {
+TEST(UserLocale, EnglishUnitedKingdom) {
   InUserLocale("en_GB.UTF-8", 0x0809, "UserLocale.EnglishUnitedKingdom", [] {
     CheckLocale({L"02/03/2026 09:05:07", L"31/02/2026 09:05:07", "09/03/2026 14:30:00"});
-    CHECK(Variant("02/03/2026").IsDate());
-    CHECK(!Variant("31/02/2026").IsDate());
-    CHECK_EQ(Variant(2.5).ToText(), std::string("2.5"));
+    EXPECT_TRUE(Variant("02/03/2026").IsDate());
+    EXPECT_TRUE(!Variant("31/02/2026").IsDate());
+    EXPECT_EQ(Variant(2.5).ToText(), std::string("2.5"));
   });
 }
 

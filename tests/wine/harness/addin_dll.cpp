@@ -44,7 +44,7 @@ ComPtr<com::IDTExtensibility2> CreateRegisteredAddin() {
   const std::optional<std::wstring> clsidText = ReadText(classes + kProgId + L"\\CLSID", L"");
   REQUIRE(clsidText);
   CLSID clsid{};
-  REQUIRE_EQ(CLSIDFromString(clsidText->c_str(), &clsid), NOERROR);
+  REQUIRE(CLSIDFromString(clsidText->c_str(), &clsid) == NOERROR);
   const std::optional<std::wstring> server =
       ReadText(classes + L"CLSID\\" + *clsidText + L"\\InprocServer32", L"");
   REQUIRE(server);
@@ -52,11 +52,10 @@ ComPtr<com::IDTExtensibility2> CreateRegisteredAddin() {
   const HMODULE module = LoadLibraryW(server->c_str());
   REQUIRE(module);
   ComPtr<IClassFactory> factory;
-  REQUIRE_EQ(Export<AddinDll::ClassObject>(module, "DllGetClassObject")(clsid, IID_IClassFactory,
-                                                                        factory.PutVoid()),
-             S_OK);
+  REQUIRE(Export<AddinDll::ClassObject>(module, "DllGetClassObject")(clsid, IID_IClassFactory,
+                                                                     factory.PutVoid()) == S_OK);
   ComPtr<com::IDTExtensibility2> addin;
-  REQUIRE_EQ(factory->CreateInstance(nullptr, com::IID_IDTExtensibility2, addin.PutVoid()), S_OK);
+  REQUIRE(factory->CreateInstance(nullptr, com::IID_IDTExtensibility2, addin.PutVoid()) == S_OK);
   return addin;
 }
 

@@ -18,7 +18,7 @@ AddinSession::AddinSession(sim::Outlook::Options options) : world_(std::move(opt
       .ReadOnly("Description", Variant("Quorvix Client for Outlook"))
       .Property("Connect", Variant(true));
   addInInst_ = win32::MakeDispatchFace(addIn);
-  REQUIRE_EQ(Dll().Register(), S_OK);
+  REQUIRE(Dll().Register() == S_OK);
   addin_ = CreateRegisteredAddin();
 }
 
@@ -36,8 +36,8 @@ HRESULT AddinSession::Connect() {
 }
 
 void AddinSession::Start() {
-  REQUIRE_EQ(Connect(), S_OK);
-  REQUIRE_EQ(StartupComplete(), S_OK);
+  REQUIRE(Connect() == S_OK);
+  REQUIRE(StartupComplete() == S_OK);
 }
 
 HRESULT AddinSession::ClickRibbon(const std::string& controlId) {

@@ -4,7 +4,7 @@
 //   WriteSettings({{L"DBChoice", L"1"}, {L"AutoSyncToDB", L"-1"}});
 //   AddinSession session;                  // registered and created
 //   session.Start();                       // OnConnection + OnStartupComplete
-//   CHECK_EQ(FinishedLaunches(), (std::vector<std::string>{"28"}));
+//   EXPECT_EQ(FinishedLaunches(), (std::vector<std::string>{"28"}));
 //
 // The host is the simulated world of sim/, shown to the DLL through IDispatch
 // faces (platform/win32/dispatch_face.h), so that the DLL reaches it exactly

@@ -7,7 +7,7 @@
 //
 //   const bool closedItself = ShowAndDrive(form, {
 //       [&](HWND dialog) { PostMessageW(ControlOf(dialog, 3), WM_CHAR, L'4', 0); },
-//       [&](HWND dialog) { CHECK(TextOf(ControlOf(dialog, 3)) == L"4"); }});
+//       [&](HWND dialog) { EXPECT_TRUE(TextOf(ControlOf(dialog, 3)) == L"4"); }});
 #pragma once
 
 #include "platform/win32/win32_api.h"

@@ -7,8 +7,8 @@
 //   DllRibbonAddin ribbon(session);
 //   std::vector<Variant> args{Variant(control)};
 //   Variant count;
-//   CHECK(ribbon.Call("GetItemCount", args, count) == CallbackOutcome::Done);
-//   CHECK_EQ(ribbon.Rows(RibbonControl("cboProjectCal", explorer)), names);
+//   EXPECT_TRUE(ribbon.Call("GetItemCount", args, count) == CallbackOutcome::Done);
+//   EXPECT_EQ(ribbon.Rows(RibbonControl("cboProjectCal", explorer)), names);
 #pragma once
 
 #include <string>

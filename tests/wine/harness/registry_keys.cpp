@@ -31,9 +31,9 @@ std::optional<DWORD> ReadDword(const std::wstring& key, const std::wstring& name
 }
 
 void WriteText(const std::wstring& key, const std::wstring& name, const std::wstring& value) {
-  REQUIRE_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), REG_SZ, value.c_str(),
-                             static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t))),
-             ERROR_SUCCESS);
+  REQUIRE(RegSetKeyValueW(HKEY_CURRENT_USER, key.c_str(), name.c_str(), REG_SZ, value.c_str(),
+                          static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t))) ==
+          ERROR_SUCCESS);
 }
 
 void DeleteTree(const std::wstring& key) {

@@ -32,7 +32,7 @@ struct OwnedHandle {
 
 void InUserLocale(const char* unixLocale, LCID expected, const char* testName, void (*checks)()) {
   if (!RunName().empty()) {
-    REQUIRE_EQ(GetUserDefaultLCID(), expected);
+    REQUIRE(GetUserDefaultLCID() == expected);
     checks();
     return;
   }
@@ -57,9 +57,8 @@ void InUserLocale(const char* unixLocale, LCID expected, const char* testName, v
   const HANDLE ends[] = {passed.h, failed.h};
   const DWORD end = WaitForMultipleObjects(2, ends, FALSE, 180000);
   if (end != WAIT_OBJECT_0) {
-    RecordFailure(__FILE__, __LINE__,
-                  std::string("the run in ") + unixLocale +
-                      (end == WAIT_OBJECT_0 + 1 ? " failed" : " did not end"));
+    ADD_FAILURE() << "the run in " << unixLocale
+                  << (end == WAIT_OBJECT_0 + 1 ? " failed" : " did not end");
   }
 }
 

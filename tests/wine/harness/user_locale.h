@@ -3,9 +3,9 @@
 // test host runs such a test in a second test host, started as a Unix
 // process under that locale with the test's own name as its filter.
 //
-//   WINE_TEST(UserLocale, German) {
+//   TEST(UserLocale, German) {
 //     InUserLocale("de_DE.UTF-8", 0x0407, "UserLocale.German", [] {
-//       CHECK_EQ(DateToText(DateSerial(2026, 3, 9)), "09.03.2026");
+//       EXPECT_EQ(DateToText(DateSerial(2026, 3, 9)), "09.03.2026");
 //     });
 //   }
 //
