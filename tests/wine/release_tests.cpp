@@ -8,6 +8,7 @@
 
 #include "harness/addin_dll.h"
 #include "harness/check.h"
+#include "harness/companion_journal.h"
 #include "harness/registry_keys.h"
 
 namespace qvx::winetest {
@@ -29,20 +30,7 @@ std::wstring ReleaseFolder() {
 
 // Runs a script of the release as the user would from a prompt; its exit code.
 DWORD RunScript(const std::wstring& script, const std::wstring& argument) {
-  std::wstring command = L"cmd.exe /c \"\"" + ReleaseFolder() + script + L"\" " + argument + L"\"";
-  STARTUPINFOW startup{};
-  startup.cb = sizeof(startup);
-  PROCESS_INFORMATION process{};
-  if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW, nullptr,
-                      nullptr, &startup, &process)) {
-    return GetLastError() | 0x80000000u;
-  }
-  WaitForSingleObject(process.hProcess, INFINITE);
-  DWORD code = 0;
-  GetExitCodeProcess(process.hProcess, &code);
-  CloseHandle(process.hThread);
-  CloseHandle(process.hProcess);
-  return code;
+  return RunAndWait(L"cmd.exe /c \"\"" + ReleaseFolder() + script + L"\" " + argument + L"\"");
 }
 
 void SetOfficeBitness(const wchar_t* bitness) {

@@ -83,18 +83,7 @@ DWORD PostFromAnotherProcess(const std::wstring& name, int value,
   std::wstring command =
       L"\"" + ProgramFolder() + L"qvx_post_message.exe\" " + name + L" " + std::to_wstring(value);
   for (const std::wstring& setting : settings) command += L" \"" + setting + L"\"";
-  STARTUPINFOW startup{};
-  startup.cb = sizeof(startup);
-  PROCESS_INFORMATION process{};
-  REQUIRE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW,
-                         nullptr, nullptr, &startup, &process));
-  CloseHandle(process.hThread);
-  // The poster does not wait on us, but pump anyway: the window is ours.
-  PumpUntil([&] { return WaitForSingleObject(process.hProcess, 0) == WAIT_OBJECT_0; }, 30000);
-  DWORD code = STILL_ACTIVE;
-  GetExitCodeProcess(process.hProcess, &code);
-  CloseHandle(process.hProcess);
-  return code;
+  return RunAndWait(std::move(command));
 }
 
 }  // namespace qvx::winetest

@@ -1,7 +1,5 @@
 #include "harness/companion_journal.h"
 
-#include <tlhelp32.h>
-
 #include <algorithm>
 #include <fstream>
 #include <iterator>
@@ -22,8 +20,6 @@ std::wstring JournalPath() {
 // The test program's job: every process it or the add-in starts joins it at
 // creation. A process snapshot misses a program that is created but has not
 // begun to run, so counting the job's processes is what makes the wait exact.
-// Null when the job could not be made (a test program started inside another
-// test program's job).
 HANDLE LaunchJob() {
   static const HANDLE job = [] {
     HANDLE made = CreateJobObjectW(nullptr, nullptr);
@@ -36,28 +32,12 @@ HANDLE LaunchJob() {
   return job;
 }
 
-int StandInsByName() {
-  HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
-  REQUIRE(snapshot != INVALID_HANDLE_VALUE);
-  PROCESSENTRY32W entry{};
-  entry.dwSize = sizeof(entry);
-  int count = 0;
-  for (BOOL more = Process32FirstW(snapshot, &entry); more;
-       more = Process32NextW(snapshot, &entry)) {
-    if (_wcsicmp(entry.szExeFile, L"QuorvixClient.exe") == 0) ++count;
-  }
-  CloseHandle(snapshot);
-  return count;
-}
-
 // Programs started from here that are still running.
 int RunningStandIns() {
   JOBOBJECT_BASIC_ACCOUNTING_INFORMATION job{};
-  if (LaunchJob() && QueryInformationJobObject(LaunchJob(), JobObjectBasicAccountingInformation,
-                                               &job, sizeof(job), nullptr)) {
-    return static_cast<int>(job.ActiveProcesses) - 1;  // less this test program
-  }
-  return StandInsByName();
+  REQUIRE(LaunchJob() && QueryInformationJobObject(LaunchJob(), JobObjectBasicAccountingInformation,
+                                                   &job, sizeof(job), nullptr));
+  return static_cast<int>(job.ActiveProcesses) - 1;  // less this test program
 }
 
 // "" while no companion has started.
@@ -77,8 +57,22 @@ void PumpOnce() {
   MsgWaitForMultipleObjects(0, nullptr, FALSE, 20, QS_ALLINPUT);
 }
 
+DWORD RunAndWait(std::wstring command) {
+  STARTUPINFOW startup{};
+  startup.cb = sizeof(startup);
+  PROCESS_INFORMATION process{};
+  REQUIRE(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, CREATE_NO_WINDOW,
+                         nullptr, nullptr, &startup, &process));
+  CloseHandle(process.hThread);
+  PumpUntil([&] { return WaitForSingleObject(process.hProcess, 0) == WAIT_OBJECT_0; }, 120000);
+  DWORD code = STILL_ACTIVE;
+  GetExitCodeProcess(process.hProcess, &code);
+  CloseHandle(process.hProcess);
+  return code;
+}
+
 void SetUpJournal() {
-  if (!LaunchJob()) Note("no job for the launches: they are counted by name, once running");
+  if (!LaunchJob()) Note("no job for the launches: every wait for them fails");
   SetEnvironmentVariableW(L"QVX_COMPANION_JOURNAL", JournalPath().c_str());
 }
 

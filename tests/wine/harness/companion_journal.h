@@ -27,6 +27,10 @@ std::vector<std::string> FinishedLaunches();
 // The number of lines in the journal so far.
 size_t JournalLines();
 
+// Runs a program of the test side, pumping this thread's messages until it
+// ends (two minutes at the most); its exit code. REQUIREs that it starts.
+DWORD RunAndWait(std::wstring command);
+
 // Lets this thread's pending messages through.
 void PumpOnce();
 // Pumps until `done` or the limit; returns whether `done` became true.

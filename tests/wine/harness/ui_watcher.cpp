@@ -33,10 +33,6 @@ std::optional<std::wstring> TextIfAnswered(HWND hwnd) {
   return text;
 }
 
-std::wstring TextOf(HWND hwnd) {
-  return TextIfAnswered(hwnd).value_or(std::wstring());
-}
-
 struct Children {
   SeenDialog* dialog;
   HWND firstStandardButton = nullptr;
@@ -51,7 +47,7 @@ BOOL CALLBACK CollectChild(HWND child, LPARAM data) {
     SendMessageTimeoutW(child, STM_GETIMAGE, IMAGE_BITMAP, 0, SMTO_ABORTIFHUNG, 2000, &image);
     if (image != 0) ++children->dialog->pictures;
   } else if (_wcsicmp(cls.c_str(), L"Static") == 0 || _wcsicmp(cls.c_str(), L"Edit") == 0) {
-    children->dialog->texts.push_back(TextOf(child));
+    children->dialog->texts.push_back(TextIfAnswered(child).value_or(std::wstring()));
   } else if (_wcsicmp(cls.c_str(), L"Button") == 0 && !children->firstStandardButton) {
     // Message boxes use the standard ids (IDOK ... IDCONTINUE); forms use their own.
     const int id = GetDlgCtrlID(child);

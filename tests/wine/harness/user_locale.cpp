@@ -4,6 +4,7 @@
 #include <string>
 
 #include "harness/check.h"
+#include "platform/win32/win_handles.h"
 
 namespace qvx::winetest {
 namespace {
@@ -21,13 +22,6 @@ std::wstring RunName() {
   return n > 0 && n < 128 ? std::wstring(buffer, n) : std::wstring();
 }
 
-struct OwnedHandle {
-  HANDLE h;
-  ~OwnedHandle() {
-    if (h) CloseHandle(h);
-  }
-};
-
 }  // namespace
 
 void InUserLocale(const char* unixLocale, LCID expected, const char* testName, void (*checks)()) {
@@ -39,9 +33,9 @@ void InUserLocale(const char* unixLocale, LCID expected, const char* testName, v
   static int runs = 0;
   const std::wstring run = L"QVX_UserLocaleRun_" + std::to_wstring(GetCurrentProcessId()) + L"_" +
                            std::to_wstring(++runs);
-  OwnedHandle passed{CreateEventW(nullptr, TRUE, FALSE, (run + L".passed").c_str())};
-  OwnedHandle failed{CreateEventW(nullptr, TRUE, FALSE, (run + L".failed").c_str())};
-  REQUIRE(passed.h && failed.h);
+  const win32::UniqueHandle passed(CreateEventW(nullptr, TRUE, FALSE, (run + L".passed").c_str()));
+  const win32::UniqueHandle failed(CreateEventW(nullptr, TRUE, FALSE, (run + L".failed").c_str()));
+  REQUIRE(passed && failed);
   wchar_t self[MAX_PATH] = {};
   REQUIRE(GetModuleFileNameW(nullptr, self, MAX_PATH) > 0);
   const std::wstring locale = Widen(unixLocale);
@@ -54,7 +48,7 @@ void InUserLocale(const char* unixLocale, LCID expected, const char* testName, v
                          &startup, &process));
   if (process.hProcess) CloseHandle(process.hProcess);
   if (process.hThread) CloseHandle(process.hThread);
-  const HANDLE ends[] = {passed.h, failed.h};
+  const HANDLE ends[] = {passed.get(), failed.get()};
   const DWORD end = WaitForMultipleObjects(2, ends, FALSE, 180000);
   if (end != WAIT_OBJECT_0) {
     ADD_FAILURE() << "the run in " << unixLocale
@@ -65,9 +59,9 @@ void InUserLocale(const char* unixLocale, LCID expected, const char* testName, v
 void SignalUserLocaleRun(int result) {
   const std::wstring run = RunName();
   if (run.empty()) return;
-  OwnedHandle done{OpenEventW(EVENT_MODIFY_STATE, FALSE,
-                              (run + (result == 0 ? L".passed" : L".failed")).c_str())};
-  if (done.h) SetEvent(done.h);
+  const win32::UniqueHandle done(OpenEventW(
+      EVENT_MODIFY_STATE, FALSE, (run + (result == 0 ? L".passed" : L".failed")).c_str()));
+  if (done) SetEvent(done.get());
 }
 
 }  // namespace qvx::winetest

@@ -20,16 +20,8 @@ bool WriteSetting(const char* assignment) {
   if (!equals || equals == assignment) return false;
   const std::string name(assignment, equals);
   const std::string text(equals + 1);
-  HKEY key = nullptr;
-  if (RegCreateKeyExA(HKEY_CURRENT_USER, "Software\\Zenbrook\\QVX", 0, nullptr, 0, KEY_SET_VALUE,
-                      nullptr, &key, nullptr) != ERROR_SUCCESS) {
-    return false;
-  }
-  const LONG written =
-      RegSetValueExA(key, name.c_str(), 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
-                     static_cast<DWORD>(text.size() + 1));
-  RegCloseKey(key);
-  return written == ERROR_SUCCESS;
+  return RegSetKeyValueA(HKEY_CURRENT_USER, "Software\\Zenbrook\\QVX", name.c_str(), REG_SZ,
+                         text.c_str(), static_cast<DWORD>(text.size() + 1)) == ERROR_SUCCESS;
 }
 
 }  // namespace
