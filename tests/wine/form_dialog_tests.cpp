@@ -25,10 +25,6 @@ using platform::FormControl;
 using platform::MakeControl;
 namespace kind = platform::kind;
 
-HWND Item(HWND dialog, int index) {
-  return ControlOf(dialog, index);
-}
-
 // A form of each kind of control, logging its events as "name.Event".
 struct FieldsForm {
   platform::FormModel form{"Test: All Project Fields", 0, Layout()};
@@ -76,33 +72,34 @@ TEST(FormDialog, ShowsTheModelInTabOrderAndEnterClicksTheDefaultButton) {
       f.form,
       {[&](HWND dialog) {
          EXPECT_TRUE(TextOf(dialog) == L"Test: All Project Fields");
-         EXPECT_TRUE(TextOf(Item(dialog, 0)) == L"&Project");
-         EXPECT_EQ(SendMessageW(Item(dialog, 1), CB_GETCOUNT, 0, 0), LRESULT{2});
-         EXPECT_TRUE(TextOf(Item(dialog, 1)) == L"Beta");
-         EXPECT_TRUE(TextOf(Item(dialog, 4)) == L"&Save");
-         EXPECT_TRUE((GetWindowLongW(Item(dialog, 4), GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON);
+         EXPECT_TRUE(TextOf(ControlOf(dialog, 0)) == L"&Project");
+         EXPECT_EQ(SendMessageW(ControlOf(dialog, 1), CB_GETCOUNT, 0, 0), LRESULT{2});
+         EXPECT_TRUE(TextOf(ControlOf(dialog, 1)) == L"Beta");
+         EXPECT_TRUE(TextOf(ControlOf(dialog, 4)) == L"&Save");
+         EXPECT_TRUE((GetWindowLongW(ControlOf(dialog, 4), GWL_STYLE) & 0x0F) == BS_DEFPUSHBUTTON);
          // The system's dialog font, on the dialog and its controls alike.
          const auto font = reinterpret_cast<HFONT>(SendMessageW(dialog, WM_GETFONT, 0, 0));
          EXPECT_TRUE(font != nullptr);
-         EXPECT_TRUE(reinterpret_cast<HFONT>(SendMessageW(Item(dialog, 3), WM_GETFONT, 0, 0)) ==
-                     font);
+         EXPECT_TRUE(
+             reinterpret_cast<HFONT>(SendMessageW(ControlOf(dialog, 3), WM_GETFONT, 0, 0)) == font);
          // Tab goes combo, text box, Save, Cancel, and round again.
          std::vector<int> order;
-         HWND at = Item(dialog, 1);
-         for (int i = 0; i < 4; ++i, at = GetNextDlgTabItem(dialog, at, FALSE)) {
+         HWND at = ControlOf(dialog, 1);
+         for (int i = 0; i < 4; ++i, at = GetNextDlgTabControlOf(dialog, at, FALSE)) {
            order.push_back(GetDlgCtrlID(at) - kFirstControlId);
          }
          EXPECT_EQ(order, (std::vector<int>{1, 3, 4, 5}));
-         EXPECT_TRUE(GetNextDlgTabItem(dialog, Item(dialog, 5), FALSE) == Item(dialog, 1));
+         EXPECT_TRUE(GetNextDlgTabControlOf(dialog, ControlOf(dialog, 5), FALSE) ==
+                     ControlOf(dialog, 1));
          // The user chooses the first row of the combo box.
-         SendMessageW(Item(dialog, 1), CB_SETCURSEL, 0, 0);
+         SendMessageW(ControlOf(dialog, 1), CB_SETCURSEL, 0, 0);
          PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(kFirstControlId + 1, CBN_SELCHANGE),
-                      reinterpret_cast<LPARAM>(Item(dialog, 1)));
+                      reinterpret_cast<LPARAM>(ControlOf(dialog, 1)));
        },
        [&](HWND dialog) {
          EXPECT_EQ(f.form.At("cboProject").text, std::string("Alpha"));
-         SetFocus(Item(dialog, 3));
-         PostMessageW(Item(dialog, 3), WM_KEYDOWN, VK_RETURN, 0);
+         SetFocus(ControlOf(dialog, 3));
+         PostMessageW(ControlOf(dialog, 3), WM_KEYDOWN, VK_RETURN, 0);
        }});
   EXPECT_TRUE(closedItself);
   EXPECT_EQ(f.log, (std::vector<std::string>{"cboProject.Click", "save"}));
@@ -111,10 +108,11 @@ TEST(FormDialog, ShowsTheModelInTabOrderAndEnterClicksTheDefaultButton) {
 
 TEST(FormDialog, EscClicksTheCancelButton) {
   FieldsForm f;
-  const bool closedItself = ShowAndDrive(f.form, {[&](HWND dialog) {
-                                           SetFocus(Item(dialog, 3));
-                                           PostMessageW(Item(dialog, 3), WM_KEYDOWN, VK_ESCAPE, 0);
-                                         }});
+  const bool closedItself =
+      ShowAndDrive(f.form, {[&](HWND dialog) {
+                     SetFocus(ControlOf(dialog, 3));
+                     PostMessageW(ControlOf(dialog, 3), WM_KEYDOWN, VK_ESCAPE, 0);
+                   }});
   EXPECT_TRUE(closedItself);
   EXPECT_EQ(f.log, std::vector<std::string>{"cancel"});
   EXPECT_EQ(f.closeModes, std::vector<int32_t>{platform::kCloseByCode});  // Unload in the handler

@@ -19,6 +19,7 @@
 #include "harness/ui_watcher.h"
 #include "platform/win32/dispatch_face.h"
 #include "sim/explorer.h"
+#include "sim/fake_object.h"
 #include "sim/folder.h"
 #include "sim/item_classes.h"
 
@@ -58,7 +59,9 @@ TEST(HostCalls, NoUserActionCallsTheHostMoreThanItsRecordedFigure) {
     }
   }
   DllRibbonAddin ribbon(session);
-  auto ribbonUi = FakeRibbonUi();
+  auto ribbonUi = std::make_shared<sim::FakeObject>("IRibbonUI");
+  ribbonUi->Method("Invalidate", 0, 0, [](sim::Args&) { return Variant(); });
+  ribbonUi->Method("InvalidateControl", 1, 1, [](sim::Args&) { return Variant(); });
   const auto act = [&](const char* callback, std::vector<Variant> args) {
     Variant none;
     EXPECT_TRUE(ribbon.Call(callback, args, none) == CallbackOutcome::Done);

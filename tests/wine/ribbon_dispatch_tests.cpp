@@ -8,11 +8,8 @@
 
 #include "harness/addin_session.h"
 #include "harness/check.h"
-#include "harness/companion_journal.h"
-#include "harness/dll_ribbon_addin.h"
 #include "harness/registry_keys.h"
 #include "harness/ui_watcher.h"
-#include "platform/win32/dispatch_face.h"
 
 namespace qvx::winetest {
 namespace {
@@ -74,22 +71,6 @@ TEST(RibbonDispatch, BadNamesPointersAndArgumentsGiveErrors) {
   BSTR markup = reinterpret_cast<BSTR>(1);
   EXPECT_EQ(ribbon->GetCustomUI(contact.get(), &markup), S_OK);
   EXPECT_TRUE(markup == nullptr);
-}
-
-TEST(RibbonDispatch, OnLoadHandsTheRibbonToTheAddin) {
-  WriteSettings({{L"DBChoice", L"1"}});
-  AddinSession session;
-  session.Start();
-  // Office's IRibbonUI, as a late-bound object of the host.
-  auto ribbonUi = FakeRibbonUi();
-  ComPtr<IDispatch> face = win32::MakeDispatchFace(ribbonUi);
-  EXPECT_EQ(InvokeByName(session.Dispatch().get(), L"oNlOaD", {Arg(VT_DISPATCH, face.get())}),
-            S_OK);
-
-  // The manager's "settings changed" makes the add-in invalidate its ribbon.
-  EXPECT_EQ(PostFromAnotherProcess(L"ZNB_QVX_Manager", 0), 0u);
-  EXPECT_TRUE(PumpUntil([&] { return ribbonUi->CallCount("Invalidate") >= 1; }));
-  EXPECT_TRUE(Watcher().Take().empty());
 }
 
 // A callback that fails without a trap of its own answers with the failure in

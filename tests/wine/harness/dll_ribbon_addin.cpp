@@ -64,11 +64,4 @@ Object RibbonControl(const std::string& id, const Object& context, const std::st
   return control->AsObject();
 }
 
-std::shared_ptr<sim::FakeObject> FakeRibbonUi() {
-  auto ribbonUi = std::make_shared<sim::FakeObject>("IRibbonUI");
-  ribbonUi->Method("Invalidate", 0, 0, [](sim::Args&) { return Variant(); });
-  ribbonUi->Method("InvalidateControl", 1, 1, [](sim::Args&) { return Variant(); });
-  return ribbonUi;
-}
-
 }  // namespace qvx::winetest

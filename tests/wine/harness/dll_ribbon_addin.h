@@ -16,7 +16,6 @@
 #include <vector>
 
 #include "harness/addin_session.h"
-#include "sim/fake_object.h"
 #include "sim/ribbon/ribbon_addin.h"
 
 namespace qvx::winetest {
@@ -37,7 +36,5 @@ class DllRibbonAddin : public sim::RibbonAddin {
 
 // Office's IRibbonControl for a control of a ribbon whose window is `context`.
 Object RibbonControl(const std::string& id, const Object& context, const std::string& tag = "");
-// Office's IRibbonUI for OnLoad, counting the add-in's invalidations.
-std::shared_ptr<sim::FakeObject> FakeRibbonUi();
 
 }  // namespace qvx::winetest
