@@ -85,11 +85,11 @@ TEST(FormDialog, ShowsTheModelInTabOrderAndEnterClicksTheDefaultButton) {
          // Tab goes combo, text box, Save, Cancel, and round again.
          std::vector<int> order;
          HWND at = ControlOf(dialog, 1);
-         for (int i = 0; i < 4; ++i, at = GetNextDlgTabControlOf(dialog, at, FALSE)) {
+         for (int i = 0; i < 4; ++i, at = GetNextDlgTabItem(dialog, at, FALSE)) {
            order.push_back(GetDlgCtrlID(at) - kFirstControlId);
          }
          EXPECT_EQ(order, (std::vector<int>{1, 3, 4, 5}));
-         EXPECT_TRUE(GetNextDlgTabControlOf(dialog, ControlOf(dialog, 5), FALSE) ==
+         EXPECT_TRUE(GetNextDlgTabItem(dialog, ControlOf(dialog, 5), FALSE) ==
                      ControlOf(dialog, 1));
          // The user chooses the first row of the combo box.
          SendMessageW(ControlOf(dialog, 1), CB_SETCURSEL, 0, 0);
