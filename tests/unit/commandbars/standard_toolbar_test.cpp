@@ -110,8 +110,6 @@ TEST_F(StandardToolbarTest, AnInspectorsBarWritesItsOwnPoolAndAnswersByName) {
 
   EXPECT_EQ(bar->GetRibbonValueFromPool("SELECTED_INSPECTOR_PROJECT_VALUE").ToText(), "Beta");
   EXPECT_EQ(bar->GetRibbonValueFromPool("REPORT_BUTTON_INSPECTOR_CAPTION").ToText(), "Publish");
-  EXPECT_TRUE(bar->GetRibbonValueFromPool("NO_SUCH_NAME").IsEmpty());
-  bar->SetVariableValue("NO_SUCH_NAME", Variant("x"));
   bar->SetVariableValue("SELECTED_INSPECTOR_ACTIVITY_VALUE", Variant("Build"));
   EXPECT_EQ(bar->GetRibbonValueFromPool("SELECTED_INSPECTOR_ACTIVITY_VALUE").ToText(), "Build");
   // The explorers' values are not the inspector's.

@@ -55,7 +55,7 @@ class WrappedButtonTest : public TaggingTest {
   std::shared_ptr<RecordingOwner> owner = std::make_shared<RecordingOwner>();
 };
 
-TEST_F(WrappedButtonTest, EachOfTwoLikeButtonsReportsItself) {
+TEST_F(WrappedButtonTest, EachOfTwoLikeButtonsReportsItselfAndRewrappingMovesTheClick) {
   auto first = Button("Day");
   auto second = Button("Day");
   auto firstWrapper = Wrap(first, owner);
@@ -70,6 +70,13 @@ TEST_F(WrappedButtonTest, EachOfTwoLikeButtonsReportsItself) {
   EXPECT_FALSE(owner->clicked[0].Is(first->AsObject()));
   EXPECT_TRUE(firstWrapper->Wrapped().Is(first->AsObject()));
   EXPECT_EQ(s().support.strCurrentAction, "cWrappedButton.cmdOfficeButton_Click");
+
+  auto third = Button("Quarter");
+  secondWrapper->Wrapped(third->AsObject());
+  second->UserClick();
+  third->UserClick();
+  ASSERT_EQ(owner->clicked.size(), 3u);
+  EXPECT_TRUE(owner->clicked[2].Is(third->AsObject()));
 }
 
 TEST_F(WrappedButtonTest, TheOwnersAnswerReachesBlnNewAndNotTheHost) {
@@ -121,19 +128,6 @@ TEST_F(WrappedButtonTest, AWrapperGoneLeavesTheButtonAndTellsNoOne) {
   EXPECT_FALSE(button->deleted());
   EXPECT_EQ(button->raised(), 1);
   EXPECT_TRUE(Reports().empty());
-}
-
-TEST_F(WrappedButtonTest, RewrappingMovesTheClickToTheNewButton) {
-  auto first = Button("Quarter");
-  auto second = Button("Half");
-  auto wrapper = Wrap(first, owner);
-  wrapper->Wrapped(second->AsObject());
-
-  first->UserClick();
-  second->UserClick();
-
-  ASSERT_EQ(owner->clicked.size(), 1u);
-  EXPECT_TRUE(owner->clicked[0].Is(second->AsObject()));
 }
 
 }  // namespace

@@ -8,13 +8,7 @@
 namespace qvx::testing {
 namespace {
 
-class TagItemTest : public TaggingTest {
- protected:
-  bool Tag(sim::SimItem& item, std::string_view property, std::string_view value,
-           bool save = true) {
-    return Actions::TagProjectToItem(s(), item.AsObject(), property, value, save);
-  }
-};
+using TagItemTest = TaggingTest;
 
 TEST(IsCustomFieldProperty, OnlyFieldsOneToEightCaseIncluded) {
   const struct {

@@ -13,6 +13,7 @@
 
 #include "apps/qvx-sim/world.h"
 #include "core/dates.h"
+#include "reporting/tag_item.h"
 #include "settings/my_settings.h"
 #include "sim/appointment.h"
 #include "sim/explorer.h"
@@ -70,6 +71,11 @@ class TaggingTest : public ::testing::Test {
     host().Select(*explorer, std::move(items));
   }
 
+  // Tags the item as the bars and the ribbon do.
+  bool Tag(sim::SimItem& item, std::string_view property, std::string_view value,
+           bool save = true) {
+    return Actions::TagProjectToItem(s(), item.AsObject(), property, value, save);
+  }
   // The item's user property as text; "(none)" when it has none.
   static std::string Prop(sim::SimItem& item, std::string_view name) {
     auto property = item.UserProperties().Find(name);
