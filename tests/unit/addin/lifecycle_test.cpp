@@ -74,8 +74,7 @@ TEST_F(Lifecycle, EveryHostShutdownEventTearsDownAndNothingRestarts) {
   const std::pair<const char*, void (*)(QVXClientAddin&)> rows[] = {
       {"begin-shutdown", [](QVXClientAddin& a) { a.OnBeginShutdown(); }},
       {"disconnection", [](QVXClientAddin& a) { a.OnDisconnection(0); }},
-      {"terminate", [](QVXClientAddin& a) { a.Terminate(); }},
-  };
+      {"terminate", [](QVXClientAddin& a) { a.Terminate(); }}};
   for (const auto& [event, raise] : rows) {
     World fresh;
     Start(fresh);

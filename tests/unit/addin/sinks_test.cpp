@@ -29,59 +29,37 @@ class Sinks : public TaggingTest {
     for (const auto& entry : *inspectors().colInspectorsTB) keys.push_back(entry.key);
     return keys;
   }
-  // Appointments A and B, each in its own inspector with both bars; B's is active.
-  struct TwoInspectors {
-    std::shared_ptr<sim::SimAppointment> a, b;
-    std::shared_ptr<sim::SimInspector> onA, onB;
-  };
-  TwoInspectors OpenTwoWithBothBars() {
-    Set("AllowAppointmentItems", "-1");
-    Set("CustomList2Active", "-1");
-    Start();
-    TwoInspectors two;
-    two.a = host().AddAppointment("A", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2));
-    two.b = host().AddAppointment("B", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2));
-    two.onA = host().OpenInspector(two.a);
-    two.onB = host().OpenInspector(two.b);
-    return two;
-  }
   bool ListenerExists() {
     return platform::SocketMessageWindows::WindowExists(companion::kClientWindowCaption);
   }
 };
 
 TEST_F(Sinks, InspectorsGetBarsOnlyForTheItemsTheAddinWorksOn) {
-  struct Row {
-    const char* messageClass;
-    const char* allowTasks;
-    const char* allowAppointments;
-    bool bar;
-  };
-  const Row rows[] = {
-      {"IPM.Note", "-1", "-1", false},
-      {"IPM.Task", "-1", "0", true},
-      {"IPM.Task", "0", "-1", false},
-      {"IPM.TaskRequest", "-1", "0", true},
-      {"IPM.Appointment", "0", "-1", true},
-      {"IPM.Appointment", "-1", "0", false},
-      {"IPM.OLE.CLASS.{00061055-0000-0000-C000-000000000046}", "0", "-1", true},
-      {"IPM.OLE.CLASS.{00061055-0000-0000-C000-000000000046}", "-1", "0", false},
-  };
-  for (const Row& row : rows) {
+  // Each message class and whether it gets a bar with only tasks, then only
+  // appointments, allowed.
+  const std::tuple<const char*, bool, bool> rows[] = {
+      {"IPM.Note", false, false},
+      {"IPM.Task", true, false},
+      {"IPM.TaskRequest", true, false},
+      {"IPM.Appointment", false, true},
+      {"IPM.OLE.CLASS.{00061055-0000-0000-C000-000000000046}", false, true}};
+  for (const bool tasks : {true, false}) {
     scenario::World fresh;
     fresh.registry().SetString(scenario::kSettingsKey, "DBChoice", "1");
-    fresh.registry().SetString(scenario::kSettingsKey, "AllowTaskItems", row.allowTasks);
-    fresh.registry().SetString(scenario::kSettingsKey, "AllowAppointmentItems",
-                               row.allowAppointments);
+    fresh.registry().SetString(scenario::kSettingsKey, "AllowTaskItems", tasks ? "-1" : "0");
+    fresh.registry().SetString(scenario::kSettingsKey, "AllowAppointmentItems", tasks ? "0" : "-1");
     fresh.addin().OnConnection(fresh.host().Application(), 1, Object());
     fresh.addin().OnStartupComplete();
-    auto item = fresh.host().NewItem(1);
-    item->SetField("MessageClass", Variant(std::string(row.messageClass)));
-    fresh.host().OpenInspector(item);
     const auto& bars = *fresh.addin().state().main.objInspectorsClient->colInspectorsTB;
-    EXPECT_EQ(bars.Count(), row.bar ? 1u : 0u) << row.messageClass << " tasks " << row.allowTasks
-                                               << " appointments " << row.allowAppointments;
-    EXPECT_TRUE(fresh.ui().Forms().empty()) << row.messageClass;
+    for (const auto& [messageClass, withTasks, withAppointments] : rows) {
+      auto item = fresh.host().NewItem(1);
+      item->SetField("MessageClass", Variant(std::string(messageClass)));
+      auto inspector = fresh.host().OpenInspector(item);
+      EXPECT_EQ(bars.Count(), (tasks ? withTasks : withAppointments) ? 1u : 0u)
+          << messageClass << (tasks ? " with tasks" : " with appointments");
+      fresh.host().Close(*inspector);
+    }
+    EXPECT_TRUE(fresh.ui().Forms().empty());
   }
 }
 
@@ -113,11 +91,20 @@ TEST_F(Sinks, TheHostsQuitTearsDownOnceWhateverIsStillOpen) {
   EXPECT_TRUE(world.ui().Forms().empty());
 }
 
-TEST_F(Sinks, RefreshReachesExplorerClientsByKeyAndOnlyTheActiveInspectorsBars) {
-  const auto [a, b, onA, onB] = OpenTwoWithBothBars();
+// Appointments A and B, each in its own inspector with both bars, B's
+// active: a refresh reaches the explorer clients by key and only the active
+// inspector's bars; closing an inspector forgets the bars kept under its item.
+TEST_F(Sinks, InspectorBarsAreRefreshedWhileActiveAndForgottenWhenClosed) {
+  Set("AllowAppointmentItems", "-1");
+  Set("CustomList2Active", "-1");
+  Start();
+  auto a = host().AddAppointment("A", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2));
+  auto b = host().AddAppointment("B", DateSerial(2026, 3, 2), DateSerial(2026, 3, 2));
+  auto onA = host().OpenInspector(a);
+  auto onB = host().OpenInspector(b);
   auto& bars = *inspectors().colInspectorsTB;
   auto& custom = *inspectors().colInspectorsCustomFieldsTB;
-  ASSERT_EQ(bars.Count(), 2u);
+  ASSERT_EQ(StandardKeys(), (std::vector<std::string>{a->EntryId(), b->EntryId()}));
   ASSERT_EQ(custom.Count(), 2u);
   s().main.objExplorersClient->UpdateAllDisplayedToolbars();
   // Two entries, one inspector on B: B's bars twice, A's not at all.
@@ -130,23 +117,13 @@ TEST_F(Sinks, RefreshReachesExplorerClientsByKeyAndOnlyTheActiveInspectorsBars) 
   s().main.objExplorersClient->UpdateAllDisplayedToolbars();
   EXPECT_EQ((*bars.Find(b->EntryId()))->toolbarUpdates, 2);
   EXPECT_EQ(s().main.colExplorerClients->Entries()[0].value->toolbarUpdates, 2);
-  EXPECT_TRUE(world.ui().Forms().empty());
-}
 
-TEST_F(Sinks, ClosingAnInspectorForgetsTheBarsKeptUnderItsItem) {
-  const auto [a, b, onA, onB] = OpenTwoWithBothBars();
-  auto& custom = *inspectors().colInspectorsCustomFieldsTB;
-  ASSERT_EQ(StandardKeys(), (std::vector<std::string>{a->EntryId(), b->EntryId()}));
-  ASSERT_EQ(custom.Count(), 2u);
-  std::weak_ptr<cStandardTB> barOfA = *inspectors().colInspectorsTB->Find(a->EntryId());
-
+  std::weak_ptr<cStandardTB> barOfA = *bars.Find(a->EntryId());
   host().Close(*onA);
-
   EXPECT_EQ(StandardKeys(), std::vector<std::string>{b->EntryId()});
   EXPECT_EQ(custom.Count(), 1u);
   EXPECT_FALSE(custom.Exists(a->EntryId()));
-  // Nothing holds the closed inspector's bar any more.
-  EXPECT_TRUE(barOfA.expired());
+  EXPECT_TRUE(barOfA.expired()) << "nothing holds the closed inspector's bar any more";
   host().Close(*onB);
   EXPECT_TRUE(StandardKeys().empty());
   EXPECT_EQ(custom.Count(), 0u);

@@ -11,10 +11,6 @@
 namespace qvx {
 namespace {
 
-bool EndsWith(std::string_view text, std::string_view tail) {
-  return text.size() >= tail.size() && text.substr(text.size() - tail.size()) == tail;
-}
-
 // The add-in's folder is the stand-ins' folder; launches are recorded only.
 struct LaunchTest : ::testing::Test {
   const std::vector<platform::LaunchRecord>& Launches() const { return t.system.Launches(); }
@@ -27,7 +23,7 @@ TEST_F(LaunchTest, EverySectionStartsTheClientWithItsNumber) {
   for (int32_t section : companion::kAllSections) {
     subLoadSection(t.s, section);
     ASSERT_FALSE(Launches().empty());
-    EXPECT_TRUE(EndsWith(Launches().back().path, "QuorvixClient.exe")) << Launches().back().path;
+    EXPECT_TRUE(Launches().back().path.ends_with("QuorvixClient.exe")) << Launches().back().path;
     EXPECT_EQ(Launches().back().argument, std::to_string(section));
     EXPECT_EQ(t.s.companion.lngLastSection, section);
   }
@@ -44,7 +40,7 @@ TEST_F(LaunchTest, StatisticsTakeAFileFolderOrAServerConnection) {
   t.settings().DBConnectionString = "Server=db1;Initial Catalog=Time";
   subLoadOLAPStatistics(t.s);
   ASSERT_EQ(Launches().size(), 2u);
-  EXPECT_TRUE(EndsWith(Launches()[0].path, "QuorvixOLAP.exe")) << Launches()[0].path;
+  EXPECT_TRUE(Launches()[0].path.ends_with("QuorvixOLAP.exe")) << Launches()[0].path;
   EXPECT_EQ(
       Launches()[0].argument,
       "Provider=Microsoft.Jet.OLEDB.4.0;Data_SPACE_Source=C:\\Data\\Quorvix.mdb|0|Jane_SPACE_Doe");

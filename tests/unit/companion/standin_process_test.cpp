@@ -40,7 +40,7 @@ class StandInProcess : public ::testing::Test {
     argv.insert(argv.begin(), path);
     std::vector<std::string> env{"QVX_COMPANION_JOURNAL=" + journal.string()};
     for (char** e = environ; *e != nullptr; ++e) {
-      if (std::string_view(*e).rfind("QVX_COMPANION_JOURNAL=", 0) != 0) env.emplace_back(*e);
+      if (!std::string_view(*e).starts_with("QVX_COMPANION_JOURNAL=")) env.emplace_back(*e);
     }
     std::vector<char*> cargv, cenv;
     for (std::string& a : argv) cargv.push_back(a.data());
@@ -49,8 +49,8 @@ class StandInProcess : public ::testing::Test {
     cenv.push_back(nullptr);
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    posix_spawn_file_actions_addopen(&actions, 1, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", O_WRONLY, 0);
+    for (const int fd : {1, 2})
+      posix_spawn_file_actions_addopen(&actions, fd, "/dev/null", O_WRONLY, 0);
     pid_t pid = 0;
     const int rc = posix_spawn(&pid, path.c_str(), &actions, nullptr, cargv.data(), cenv.data());
     posix_spawn_file_actions_destroy(&actions);

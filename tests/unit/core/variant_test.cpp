@@ -37,15 +37,12 @@ TEST(VariantToInteger, RoundsHalfToEvenAndChecksRange) {
   EXPECT_EQ(FailureNumber([] { Variant::Null().ToInteger(); }), err::kInvalidUseOfNull);
 }
 
-TEST(VariantToText, FollowsTheRuntime) {
+TEST(VariantConversions, TextNumericDateAndBooleanFollowTheRuntime) {
   EXPECT_EQ(Variant(true).ToText(), "True");
   EXPECT_EQ(Variant(0.1 + 0.2).ToText(), "0.3");
   EXPECT_EQ(Variant(1e20).ToText(), "1E+20");
   EXPECT_EQ(Variant(Currency{12345}).ToText(), "1.2345");
   EXPECT_EQ(Variant().ToText(), "");
-}
-
-TEST(VariantTests, NumericDateAndBoolean) {
   EXPECT_TRUE(Variant().IsNumeric());
   EXPECT_TRUE(Variant(" -1.5e3 ").IsNumeric());
   EXPECT_FALSE(Variant("1,5").IsNumeric());

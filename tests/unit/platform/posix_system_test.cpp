@@ -7,6 +7,8 @@
 #include <fstream>
 #include <sstream>
 
+#include "sim/temp_folder.h"
+
 namespace qvx::platform {
 namespace {
 
@@ -14,15 +16,8 @@ namespace fs = std::filesystem;
 
 class PosixSystemTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    root_ = fs::temp_directory_path() /
-            ("qvx_posix_system_" + std::to_string(::getpid()) + "_" +
-             ::testing::UnitTest::GetInstance()->current_test_info()->name());
-    fs::remove_all(root_);
-    fs::create_directories(root_);
-  }
-  void TearDown() override { fs::remove_all(root_); }
-  fs::path root_;
+  sim::TempFolder folder{"qvx-posix-system"};
+  fs::path root_{folder.path()};
 };
 
 TEST_F(PosixSystemTest, FoldersComeFromHomeAndTheConstructor) {
@@ -75,20 +70,6 @@ TEST_F(PosixSystemTest, LaunchPassesTheArgumentWholeAsOneEntryAndNoneWhenEmpty) 
   EXPECT_TRUE(sys.Launches()[0].started);
   EXPECT_FALSE(sys.Launches()[2].started);
 }
-
-TEST_F(PosixSystemTest, RecordingOnlyStartsNothing) {
-  PosixSystemServices sys({.spawn = false});
-  EXPECT_TRUE(sys.Launch("C:\\Program Files\\Q\\QuorvixClient.exe", "6", 1));
-  EXPECT_GT(sys.ShellExecute("http://example.invalid/"), 32);
-  EXPECT_TRUE(sys.RunCommandLine("regsvr32 scrrun.dll /s", 2));
-  ASSERT_EQ(sys.Launches().size(), 1u);
-  EXPECT_EQ(sys.Launches()[0].path, "C:\\Program Files\\Q\\QuorvixClient.exe");
-  EXPECT_FALSE(sys.Launches()[0].started);
-  EXPECT_EQ(sys.ShellOpens(), std::vector<std::string>{"http://example.invalid/"});
-  EXPECT_EQ(sys.CommandLines(), std::vector<std::string>{"regsvr32 scrrun.dll /s"});
-}
-
-// Environment overrides, case-blind: posix_objects_test's ExpandEnvironmentStrings.
 
 }  // namespace
 }  // namespace qvx::platform

@@ -39,39 +39,11 @@ TEST_F(RibbonCallbacks, NamesResolveWithoutRegardToCase) {
   }
 }
 
+// What is not a ribbon is refused and kept nothing; OnLoad has no trap of its
+// own, so its failure goes back to the host unreported. The latest ribbon
+// loaded is the one refreshed, and a ribbon that fails to refresh is the
+// host's affair.
 TEST_F(RibbonCallbacks, OnLoadKeepsTheLatestRibbonForInvalidation) {
-  EXPECT_EQ(Call("onLoad", {Variant(world.ribbonUi().AsObject())}), CallbackOutcome::Done);
-  EXPECT_FALSE(failure.has_value());
-  EXPECT_TRUE(result.IsEmpty());
-  subInvalidateRibbon(s());
-  subInvalidateControl(s(), "cboProject");
-  EXPECT_EQ(world.ribbonUi().CallCount("Invalidate"), 1);
-  EXPECT_EQ(world.ribbonUi().CallCount("InvalidateControl"), 1);
-
-  // A second load replaces the first ribbon.
-  auto other = std::make_shared<sim::FakeObject>("IRibbonUI");
-  other->Method("Invalidate", 0, 0, [](sim::Args&) { return Variant(); });
-  EXPECT_EQ(Call("OnLoad", {Variant(other->AsObject())}), CallbackOutcome::Done);
-  subInvalidateRibbon(s());
-  EXPECT_EQ(world.ribbonUi().CallCount("Invalidate"), 1);
-  EXPECT_EQ(other->CallCount("Invalidate"), 1);
-
-  // A ribbon that fails to refresh is the host's affair: nothing is reported.
-  other->FailMember("Invalidate", 0x80004005, "busy");
-  subInvalidateRibbon(s());
-  EXPECT_EQ(other->CallCount("Invalidate"), 2);
-  EXPECT_TRUE(world.ui().Forms().empty());
-  EXPECT_FALSE(s().err.pending());
-
-  // Tear-down lets it go.
-  subKillObjects(s());
-  EXPECT_TRUE(s().main.objRibbonUI.IsNothing());
-}
-
-// OnLoad has no trap of its own: its failure goes back to the host. Neither
-// that nor an argument list that does not fit reports or keeps anything.
-TEST_F(RibbonCallbacks, WhatIsNotARibbonIsRefusedAndKeepsNothing) {
-  EXPECT_EQ(Call("OnLoad", {}), CallbackOutcome::WrongArgumentCount);
   EXPECT_EQ(Call("OnLoad", {Variant(world.ribbonUi().AsObject()), Variant(1)}),
             CallbackOutcome::WrongArgumentCount);
   EXPECT_EQ(Call("OnLoad", {Variant("not a ribbon")}), CallbackOutcome::Failed);
@@ -79,8 +51,25 @@ TEST_F(RibbonCallbacks, WhatIsNotARibbonIsRefusedAndKeepsNothing) {
   EXPECT_EQ(failure->number(), err::kObjectRequired);
   EXPECT_TRUE(result.IsEmpty());
   EXPECT_TRUE(s().main.objRibbonUI.IsNothing());
+
+  EXPECT_EQ(Call("onLoad", {Variant(world.ribbonUi().AsObject())}), CallbackOutcome::Done);
+  EXPECT_FALSE(failure.has_value());
+  subInvalidateControl(s(), "cboProject");
+  EXPECT_EQ(world.ribbonUi().CallCount("InvalidateControl"), 1);
+  auto other = std::make_shared<sim::FakeObject>("IRibbonUI");
+  other->Method("Invalidate", 0, 0, [](sim::Args&) { return Variant(); });
+  EXPECT_EQ(Call("OnLoad", {Variant(other->AsObject())}), CallbackOutcome::Done);
+  subInvalidateRibbon(s());
+  EXPECT_EQ(world.ribbonUi().CallCount("Invalidate"), 0);
+  EXPECT_EQ(other->CallCount("Invalidate"), 1);
+
+  other->FailMember("Invalidate", 0x80004005, "busy");
+  subInvalidateRibbon(s());
+  EXPECT_EQ(other->CallCount("Invalidate"), 2);
   EXPECT_TRUE(world.ui().Forms().empty());
   EXPECT_FALSE(s().err.pending());
+  subKillObjects(s());  // tear-down lets it go
+  EXPECT_TRUE(s().main.objRibbonUI.IsNothing());
 }
 
 }  // namespace

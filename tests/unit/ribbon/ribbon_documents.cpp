@@ -32,9 +32,7 @@ void AllCustomFieldsActive(World& w) {
 
 // GetContentXML's answer for a views menu of that id, as the host asks it.
 std::string MenuContent(World& world, std::string_view id) {
-  auto control = std::make_shared<sim::FakeObject>("IRibbonControl");
-  control->ReadOnly("Id", Variant(id)).ReadOnly("Context", Variant()).ReadOnly("Tag", Variant(""));
-  std::vector<Variant> args{control->AsVariant()};
+  std::vector<Variant> args{MakeControl(id)};
   Variant result;
   std::optional<Failure> failure;
   world.addin().InvokeCallback("GetContentXML", args, result, failure);
@@ -42,6 +40,14 @@ std::string MenuContent(World& world, std::string_view id) {
 }
 
 }  // namespace
+
+Variant MakeControl(std::string_view id, const Object& context, std::string_view tag) {
+  auto control = std::make_shared<sim::FakeObject>("IRibbonControl");
+  control->ReadOnly("Id", Variant(id))
+      .ReadOnly("Context", context.IsNothing() ? Variant() : Variant(context))
+      .ReadOnly("Tag", Variant(tag));
+  return control->AsVariant();
+}
 
 const std::vector<std::string>& AnsweredRibbonIds() {
   static const std::vector<std::string> ids = {

@@ -7,7 +7,11 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "core/object.h"
+#include "core/variant.h"
 
 namespace qvx::testing {
 
@@ -16,6 +20,10 @@ struct RibbonDocument {
   std::string ribbonId;  // as the host asks
   std::string markup;    // GetCustomUI's answer; "" for none
 };
+
+// An IRibbonControl as the host passes it.
+Variant MakeControl(std::string_view id, const Object& context = Object(),
+                    std::string_view tag = "");
 
 // The ribbon ids the add-in answers.
 const std::vector<std::string>& AnsweredRibbonIds();

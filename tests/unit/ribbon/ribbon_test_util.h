@@ -16,6 +16,7 @@
 #include "sim/inspector.h"
 #include "sim/item.h"
 #include "sim/ribbon/ribbon_markup.h"
+#include "unit/ribbon/ribbon_documents.h"
 #include "unit/support/failure_report.h"
 
 namespace qvx::testing {
@@ -31,32 +32,6 @@ inline void ConnectAddin(scenario::World& world, const char* version = "16.0.0.0
 inline void StartAddin(scenario::World& world, const char* version = "16.0.0.0") {
   ConnectAddin(world, version);
   world.addin().OnStartupComplete();
-}
-
-// An inspector on a saved appointment of that subject, with the pools its
-// toolbar objects would hold.
-inline Object OpenInspectorWithPools(scenario::World& world, std::string subject) {
-  auto item = world.host().AddAppointment(std::move(subject), DateSerial(2026, 3, 2),
-                                          DateSerial(2026, 3, 3));
-  item->Save();
-  world.addin().state().ribbon.Inspector(item->EntryId());
-  return world.host().OpenInspector(item)->AsObject();
-}
-
-// The pools of the inspector's item.
-inline InspectorRibbonPools& PoolsOf(scenario::World& world, const Object& inspector) {
-  const std::string id = inspector.Get("CurrentItem").ToObject().Get("EntryID").ToText();
-  return world.addin().state().ribbon.Inspector(id);
-}
-
-// An IRibbonControl as the host passes it.
-inline Variant MakeControl(std::string_view id, const Object& context = Object(),
-                           std::string_view tag = "") {
-  auto control = std::make_shared<sim::FakeObject>("IRibbonControl");
-  control->ReadOnly("Id", Variant(id))
-      .ReadOnly("Context", context.IsNothing() ? Variant() : Variant(context))
-      .ReadOnly("Tag", Variant(tag));
-  return control->AsVariant();
 }
 
 // The answer of callback `name` for `control` (and further arguments); a
@@ -76,6 +51,34 @@ inline Variant CallbackAnswer(scenario::World& world, std::string_view name, Var
 inline std::vector<std::string> ErrorReports(scenario::World& world) {
   return ShownReports(world.ui());
 }
+
+// An add-in started on a host of version 16 (after the test's settings, in
+// SetUp) with an inspector on the saved appointment "Planning" and the pools
+// its toolbar objects would hold. `Ask` calls a callback for a control of
+// that inspector, as the host does.
+class RibbonInspectorTest : public ::testing::Test {
+ protected:
+  void Set(std::string_view name, std::string_view text) {
+    world.registry().SetString(scenario::kSettingsKey, name, text);
+  }
+  void SetUp() override {
+    StartAddin(world);
+    auto item =
+        world.host().AddAppointment("Planning", DateSerial(2026, 3, 2), DateSerial(2026, 3, 3));
+    item->Save();
+    world.addin().state().ribbon.Inspector(item->EntryId());
+    inspector = world.host().OpenInspector(item)->AsObject();
+  }
+  AddinState& s() { return world.addin().state(); }
+  InspectorRibbonPools& Pools() {
+    return s().ribbon.Inspector(inspector.Get("CurrentItem").ToObject().Get("EntryID").ToText());
+  }
+  Variant Ask(std::string_view name, std::string_view id, std::vector<Variant> more = {}) {
+    return CallbackAnswer(world, name, MakeControl(id, inspector), std::move(more));
+  }
+  scenario::World world;
+  Object inspector;
+};
 
 // Every id of the tree, in document order.
 inline void CollectIds(const sim::MarkupElement& e, std::vector<std::string>& ids) {

@@ -40,11 +40,9 @@ TEST(ScenarioScript, MalformedLinesNameTheirLine) {
     const char* text;
     int line;
   };
-  const Row rows[] = {
-      {"a\nb \"open", 2}, {"x\ny\nz \"bad\\q\"", 3},         {"\"glued\"word", 1},
-      {"wo\"rd", 1},      {"ok\n\"trailing backslash\\", 2}, {"\"\\x4\"", 1},
-      {"\"\\xg0\"", 1},
-  };
+  const Row rows[] = {{"a\nb \"open", 2}, {"x\ny\nz \"bad\\q\"", 3},         {"\"glued\"word", 1},
+                      {"wo\"rd", 1},      {"ok\n\"trailing backslash\\", 2}, {"\"\\x4\"", 1},
+                      {"\"\\xg0\"", 1}};
   for (const Row& row : rows) {
     Script script;
     const auto error = ParseScript(row.text, "t", script);

@@ -8,11 +8,8 @@
 #include "core/dates.h"
 #include "settings/tasks_per_project_list.h"
 #include "settings_fixture.h"
-#include "unit/support/failure_report.h"
 
 namespace qvx::testing {
-
-using Strings = std::vector<std::string>;
 
 struct CatalogueFixture : SettingsFixture {
   cTasksPerProjectList catalogue;
@@ -27,13 +24,6 @@ struct CatalogueFixture : SettingsFixture {
     const auto* found = catalogue.dicList.Find(name);
     if (found == nullptr) throw std::runtime_error("no project " + std::string(name));
     return **found;
-  }
-  // Whether one report was shown, of a failure trapped under `label`.
-  ::testing::AssertionResult ReportedOnce(std::string_view label) const {
-    if (Reports().size() != 1) {
-      return ::testing::AssertionFailure() << Reports().size() << " reports";
-    }
-    return ReportIsTrap(Reports().front(), label);
   }
 };
 

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <chrono>
 #include <fstream>
-#include <sstream>
 
 #include "settings_fixture.h"
 
@@ -18,18 +17,17 @@ namespace qvx::platform {
 namespace {
 
 using qvx::testing::kQvxKey;
+using qvx::testing::Slurp;
 using qvx::testing::TempFolder;
-
-std::string Slurp(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream out;
-  out << in.rdbuf();
-  return out.str();
-}
 
 void Spill(const std::string& path, std::string_view bytes) {
   std::ofstream(path, std::ios::binary | std::ios::trunc)
       .write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+}
+
+// Opens the settings key for reading.
+long OpenQvx(FileRegistry& registry, RegistryApi::Key& key) {
+  return registry.OpenKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead, key);
 }
 
 // The inode and modification time: a rewrite changes one or the other.
@@ -42,8 +40,7 @@ std::pair<ino_t, std::pair<time_t, long>> Identity(const std::string& path) {
 // Every way of reading, through the registry calls and the direct ones.
 void ReadEverything(FileRegistry& registry) {
   RegistryApi::Key key = 0;
-  if (registry.OpenKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead, key) ==
-      kErrorSuccess) {
+  if (OpenQvx(registry, key) == kErrorSuccess) {
     uint32_t type = 0, size = 0;
     registry.QueryValueInfoA(key, "DBChoice", type, size);
     std::u16string buffer(16, u'\0');
@@ -55,20 +52,24 @@ void ReadEverything(FileRegistry& registry) {
   registry.KeyExists(kQvxKey);
 }
 
-TEST(FileRegistry, TypedValuesRoundTripAndNamesIgnoreCase) {
+// The add-in's registry and the companion's, on one file.
+struct FileRegistryTest : ::testing::Test {
   TempFolder folder;
-  FileRegistry registry(folder.File("r.txt"));
+  FileRegistry addin{folder.File("r.txt")};
+  FileRegistry companion{folder.File("r.txt")};
+};
+
+TEST_F(FileRegistryTest, TypedValuesRoundTripAndNamesIgnoreCase) {
   std::string all;
   for (int b = 0; b < 256; ++b) all += static_cast<char>(b);
   const std::string text = "tab\there, CR LF\r\n, 100% \x7f, Zürich, \xF0\x9F\x98\x80";
-  ASSERT_TRUE(registry.SetString(kQvxKey, "Text", text));
-  ASSERT_TRUE(registry.SetString(kQvxKey, "name\twith\ttabs", "x"));
-  ASSERT_TRUE(registry.SetString("SOFTWARE\\zenbrook\\qvx", "NAME\tWITH\tTABS", "y"));
-  ASSERT_TRUE(registry.SetDword(kQvxKey, "Max", 0xFFFFFFFFu));
-  ASSERT_TRUE(registry.SetBinary(kQvxKey, "Bytes", all));
-  FileRegistry other(folder.File("r.txt"));
-  EXPECT_EQ(other.ReadString(kQvxKey, "Text"), text);
-  const auto values = other.ListValues("software\\ZENBROOK\\Qvx");
+  ASSERT_TRUE(addin.SetString(kQvxKey, "Text", text));
+  ASSERT_TRUE(addin.SetString(kQvxKey, "name\twith\ttabs", "x"));
+  ASSERT_TRUE(addin.SetString("SOFTWARE\\zenbrook\\qvx", "NAME\tWITH\tTABS", "y"));
+  ASSERT_TRUE(addin.SetDword(kQvxKey, "Max", 0xFFFFFFFFu));
+  ASSERT_TRUE(addin.SetBinary(kQvxKey, "Bytes", all));
+  EXPECT_EQ(companion.ReadString(kQvxKey, "Text"), text);
+  const auto values = companion.ListValues("software\\ZENBROOK\\Qvx");
   ASSERT_EQ(values.size(), 4u);
   EXPECT_EQ(values[1].name, "name\twith\ttabs");  // the first spelling stays
   EXPECT_EQ(values[1].value.data, "y");
@@ -76,18 +77,16 @@ TEST(FileRegistry, TypedValuesRoundTripAndNamesIgnoreCase) {
   EXPECT_EQ(values[2].value.data, std::string("\xff\xff\xff\xff"));
   EXPECT_EQ(values[3].value.type, kRegBinary);
   EXPECT_EQ(values[3].value.data, all);
-  EXPECT_EQ(other.ReadString(kQvxKey, "Max"), std::nullopt);  // not a string
-  EXPECT_TRUE(other.KeyExists("Software\\Zenbrook"));
+  EXPECT_EQ(companion.ReadString(kQvxKey, "Max"), std::nullopt);  // not a string
+  EXPECT_TRUE(companion.KeyExists("Software\\Zenbrook"));
 }
 
-TEST(FileRegistry, UnstorableValuesAreRefused) {
-  TempFolder folder;
-  FileRegistry registry(folder.File("r.txt"));
-  EXPECT_FALSE(registry.SetString(kQvxKey, "Bad", "\xC3("));
-  EXPECT_FALSE(registry.SetString(kQvxKey, "\xFF", "x"));
-  EXPECT_FALSE(registry.SetString("", "Name", "x"));
-  EXPECT_FALSE(registry.SetValue(kQvxKey, "Short", FileRegistry::Value{kRegDword, "abc"}));
-  EXPECT_FALSE(std::filesystem::exists(registry.path()));
+TEST_F(FileRegistryTest, UnstorableValuesAreRefused) {
+  EXPECT_FALSE(addin.SetString(kQvxKey, "Bad", "\xC3("));
+  EXPECT_FALSE(addin.SetString(kQvxKey, "\xFF", "x"));
+  EXPECT_FALSE(addin.SetString("", "Name", "x"));
+  EXPECT_FALSE(addin.SetValue(kQvxKey, "Short", FileRegistry::Value{kRegDword, "abc"}));
+  EXPECT_FALSE(std::filesystem::exists(addin.path()));
 }
 
 // A file that is missing, cut anywhere, foreign or damaged reads as no values,
@@ -136,8 +135,7 @@ TEST(FileRegistry, UnreadableFilesReadAsNoValuesAndAreNeverRewrittenByReads) {
     FileRegistry registry(path);
     ReadEverything(registry);
     RegistryApi::Key key = 0;
-    EXPECT_EQ(registry.OpenKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead, key),
-              kErrorFileNotFound);
+    EXPECT_EQ(OpenQvx(registry, key), kErrorFileNotFound);
     EXPECT_TRUE(registry.ListValues(kQvxKey).empty());
     EXPECT_FALSE(registry.KeyExists(kQvxKey));
     if (!row.bytes) {
@@ -184,8 +182,7 @@ TEST(FileRegistry, WritersShareTheFile) {
     companion.SetSettleTime(settle);
     ASSERT_TRUE(companion.SetString(kQvxKey, "DBChoice", "1"));
     RegistryApi::Key key = 0;
-    ASSERT_EQ(addin.OpenKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead, key),
-              kErrorSuccess);
+    ASSERT_EQ(OpenQvx(addin, key), kErrorSuccess);
     uint32_t type = 0, size = 0;
     EXPECT_EQ(addin.QueryValueInfoA(key, "AutoSyncToDB", type, size), kErrorFileNotFound);
     ASSERT_TRUE(companion.SetString(kQvxKey, "AutoSyncToDB", "-1"));
@@ -206,15 +203,11 @@ TEST(FileRegistry, WritersShareTheFile) {
 
 // The UTF-8 read of a text value answers as the wide read converted would,
 // for each value the companion writes after the add-in's last read.
-TEST(FileRegistry, Utf8ReadIsTheWideReadAndSeesEachNewWrite) {
-  TempFolder folder;
-  FileRegistry addin(folder.File("r.txt"));
-  FileRegistry companion(folder.File("r.txt"));
+TEST_F(FileRegistryTest, Utf8ReadIsTheWideReadAndSeesEachNewWrite) {
   addin.SetSettleTime(std::chrono::nanoseconds(0));
   ASSERT_TRUE(companion.SetString(kQvxKey, "Value", "first"));
   RegistryApi::Key key = 0;
-  ASSERT_EQ(addin.OpenKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead, key),
-            kErrorSuccess);
+  ASSERT_EQ(OpenQvx(addin, key), kErrorSuccess);
   const struct {
     const char* written;
     uint32_t units;  // 0: as QueryValueInfoA reports after the write
@@ -243,10 +236,7 @@ TEST(FileRegistry, Utf8ReadIsTheWideReadAndSeesEachNewWrite) {
   EXPECT_EQ(addin.CloseKey(key), kErrorSuccess);
 }
 
-TEST(FileRegistry, ReadsTheFileAgainOnlyWhenItChanged) {
-  TempFolder folder;
-  FileRegistry addin(folder.File("r.txt"));
-  FileRegistry companion(folder.File("r.txt"));
+TEST_F(FileRegistryTest, ReadsTheFileAgainOnlyWhenItChanged) {
   addin.SetSettleTime(std::chrono::nanoseconds(0));
   ASSERT_TRUE(companion.SetString(kQvxKey, "DBChoice", "1"));
   for (int i = 0; i < 50; ++i) EXPECT_EQ(addin.ReadString(kQvxKey, "DBChoice"), "1");
@@ -323,45 +313,21 @@ TEST(FileRegistry, DefaultLocationFollowsTheEnvironment) {
   }
 }
 
-TEST(FileRegistry, TheMachineHiveIsASecondFileBesideTheUsersOwn) {
-  TempFolder folder;
-  FileRegistry registry(folder.File("r.txt"));
-  EXPECT_EQ(registry.path(Hive::LocalMachine), folder.File("machine-registry.txt"));
+TEST_F(FileRegistryTest, TheMachineHiveIsASecondFileBesideTheUsersOwn) {
+  EXPECT_EQ(addin.path(Hive::LocalMachine), folder.File("machine-registry.txt"));
   const std::string key = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
-  ASSERT_TRUE(registry.SetString(key, "PATH", "C:\\msinfo32.exe", Hive::LocalMachine));
-  ASSERT_TRUE(registry.SetString(kQvxKey, "DBChoice", "1"));
-  EXPECT_EQ(registry.ReadString(key, "PATH", Hive::LocalMachine), "C:\\msinfo32.exe");
-  EXPECT_FALSE(registry.KeyExists(key));  // not in the user's hive
-  EXPECT_FALSE(registry.KeyExists(kQvxKey, Hive::LocalMachine));
+  ASSERT_TRUE(addin.SetString(key, "PATH", "C:\\msinfo32.exe", Hive::LocalMachine));
+  ASSERT_TRUE(addin.SetString(kQvxKey, "DBChoice", "1"));
+  EXPECT_EQ(addin.ReadString(key, "PATH", Hive::LocalMachine), "C:\\msinfo32.exe");
+  EXPECT_FALSE(addin.KeyExists(key));  // not in the user's hive
+  EXPECT_FALSE(addin.KeyExists(kQvxKey, Hive::LocalMachine));
   EXPECT_EQ(Slurp(folder.File("r.txt")).find("MSINFO"), std::string::npos);
   EXPECT_NE(Slurp(folder.File("machine-registry.txt")).find("QVX registry 1\n"),
             std::string::npos);  // the same format
   // Read through the registry calls by the about box: about_key_value_test.
 
   // Another process sees the same machine file.
-  FileRegistry other(folder.File("r.txt"));
-  EXPECT_EQ(other.ReadString(key, "PATH", Hive::LocalMachine), "C:\\msinfo32.exe");
-}
-
-TEST(FileRegistry, KeysHandedOutCloseThemselves) {
-  TempFolder folder;
-  FileRegistry registry(folder.File("r.txt"));
-  {
-    const OpenedKey created = registry.Create(Hive::CurrentUser, u"Software\\Zenbrook\\QVX");
-    ASSERT_EQ(created.result, kErrorSuccess);
-    EXPECT_TRUE(created.key);
-    const OpenedKey absent = registry.Open(Hive::LocalMachine, u"SOFTWARE\\None", kKeyRead);
-    EXPECT_EQ(absent.result, kErrorFileNotFound);
-    EXPECT_FALSE(absent.key);  // nothing opened, nothing to close
-    EXPECT_EQ(registry.OpenHandles(), 1u);
-  }
-  EXPECT_EQ(registry.OpenHandles(), 0u);
-  OpenedKey moved = registry.Open(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", kKeyRead);
-  UniqueKey kept = std::move(moved.key);
-  EXPECT_FALSE(moved.key);
-  EXPECT_EQ(registry.OpenHandles(), 1u);
-  kept.Reset();
-  EXPECT_EQ(registry.OpenHandles(), 0u);
+  EXPECT_EQ(companion.ReadString(key, "PATH", Hive::LocalMachine), "C:\\msinfo32.exe");
 }
 
 }  // namespace

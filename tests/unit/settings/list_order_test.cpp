@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <random>
 
+#include "bench/exchange_sort_reference.h"
 #include "settings/scripting_sort.h"
 #include "settings/single_list.h"
 #include "settings_fixture.h"
@@ -14,7 +15,7 @@ namespace qvx {
 namespace {
 
 using testing::SettingsFixture;
-using Strings = std::vector<std::string>;
+using testing::Strings;
 using Row = std::pair<std::string, std::string>;
 
 // For i from the first row to the last but one, for j from i to the last:
@@ -28,22 +29,6 @@ std::vector<Row> ReferenceExchangeSort(std::vector<Row> rows, int column) {
     }
   }
   return rows;
-}
-
-// cSingleList.FromString as it always was: split, add each non-empty part
-// that is absent (by text compare), then the exchange sort.
-Strings ReferenceFromString(std::string_view text, std::string_view delimiter) {
-  std::vector<Row> rows;
-  if (text.empty()) return {};
-  for (const std::string& part : Split(text, delimiter)) {
-    if (part.empty()) continue;
-    bool present = false;
-    for (const Row& row : rows) present = present || CompareText(row.first, part) == 0;
-    if (!present) rows.emplace_back(part, part);
-  }
-  Strings items;
-  for (const Row& row : ReferenceExchangeSort(rows, 1)) items.push_back(row.second);
-  return items;
 }
 
 // Short texts from a small alphabet, so that case variants and ties are common.
@@ -93,11 +78,6 @@ TEST(ListOrder, ItemsKeepTheirKeysAndOnlyTwoColumnsAreKnown) {
   EXPECT_THROW(Scripting::Sort(d, 3), Failure);
 }
 
-TEST(ListOrder, TiesAreNotKeptInTheirInputOrder) {
-  // b1 b2 a: the first pass puts a first and b1 where a was.
-  EXPECT_EQ(Scripting::ExchangeSortOrder({"b", "b", "a"}), (std::vector<size_t>{2, 1, 0}));
-}
-
 // Reading a list, and finding an item in it, as the walk always did.
 TEST(ListOrder, FromStringAndGetItemIndexMatchTheOldWay) {
   for (unsigned seed = 1; seed <= 400; ++seed) {
@@ -108,9 +88,8 @@ TEST(ListOrder, FromStringAndGetItemIndexMatchTheOldWay) {
     const std::string text = Join(lines, "\r\n");
     cSingleList list;
     list.FromString(f.s, text, "\r\n");
-    Strings items;
-    for (const auto& entry : list.dicList) items.push_back(entry.value);
-    ASSERT_EQ(items, ReferenceFromString(text, "\r\n")) << "seed " << seed;
+    const Strings items = testing::Items(list);
+    ASSERT_EQ(items, bench::ReferenceFromString(text, "\r\n")) << "seed " << seed;
     lines.push_back(RandomText(random));
     for (const std::string& probe : lines) {
       const auto walk = std::find(items.begin(), items.end(), probe) - items.begin();

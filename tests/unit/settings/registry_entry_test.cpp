@@ -3,25 +3,26 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <optional>
 
 #include "settings_fixture.h"
+#include "unit/sim/sim_test_util.h"
 
 namespace qvx {
 namespace {
 
 using modRegistryEntry::GetRegistrySetting;
 using modRegistryEntry::SaveRegistrySetting;
+using sim::testing::FailureOf;
 using testing::kQvxKey;
 using testing::SettingsFixture;
 
-// The file registry, with any call told to answer a given result instead.
+// The file registry, with any call told to answer a given result instead,
+// or a query told to raise a failure of that number.
 class FaultyRegistry final : public testing::ForwardingRegistry {
  public:
   using ForwardingRegistry::ForwardingRegistry;
-  std::optional<long> create, set, open, query;
-  bool raiseOnQuery = false;
+  std::optional<long> create, set, open, query, raiseOnQuery;
   int closes = 0;
 
   long CreateKey(platform::Hive h, std::u16string_view k, Key& key) override {
@@ -34,7 +35,7 @@ class FaultyRegistry final : public testing::ForwardingRegistry {
     return open ? *open : ForwardingRegistry::OpenKey(h, k, a, key);
   }
   long QueryValueW(Key key, std::u16string_view n, std::u16string& b) override {
-    if (raiseOnQuery) throw Failure::Runtime(err::kOutOfMemory);
+    if (raiseOnQuery) throw Failure::Runtime(static_cast<int32_t>(*raiseOnQuery));
     return query ? *query : ForwardingRegistry::QueryValueW(key, n, b);
   }
   long CloseKey(Key key) override {
@@ -43,18 +44,10 @@ class FaultyRegistry final : public testing::ForwardingRegistry {
   }
 };
 
-Failure Raised(const std::function<void()>& call) {
-  try {
-    call();
-  } catch (const Failure& f) {
-    return f;
-  }
-  ADD_FAILURE() << "nothing was raised";
-  return Failure(0, "", "");
-}
-
-TEST(RegistryEntry, KeyLayoutAndTextRoundTrip) {
+TEST(RegistryEntry, KeyLayoutTextRoundTripAndDefaults) {
   SettingsFixture f;
+  EXPECT_EQ(GetRegistrySetting(f.s, "QVX", "", "Anything", "fallback"), "fallback");
+  EXPECT_FALSE(std::filesystem::exists(f.registry.path()));  // nothing created
   const std::string text = "Zürich\r\n東京\r\n\xF0\x9F\x98\x80 emoji|x";
   SaveRegistrySetting(f.s, "QVX", "", "CustomField1List", text);
   SaveRegistrySetting(f.s, "  QVX ", " Sub ", "Name", "in section");
@@ -62,47 +55,27 @@ TEST(RegistryEntry, KeyLayoutAndTextRoundTrip) {
   SaveRegistrySetting(f.s, "QVX", "", "Blank", "");
   EXPECT_EQ(f.registry.ReadString("Software\\Zenbrook\\QVX\\Sub", "Name"), "in section");
   EXPECT_EQ(f.registry.ReadString(kQvxKey, " Padded "), "no section");
+  EXPECT_EQ(f.registry.OpenHandles(), 0u);
   EXPECT_EQ(GetRegistrySetting(f.s, "QVX", "", "CustomField1List", ""), text);
   EXPECT_EQ(GetRegistrySetting(f.s, "QVX", "Sub", "Name", ""), "in section");
   EXPECT_EQ(GetRegistrySetting(f.s, "QVX", "", "Blank", "not this"), "");
-  EXPECT_TRUE(f.Reports().empty());
-}
-
-TEST(RegistryEntry, AbsentKeyOrValueGivesTheDefault) {
-  SettingsFixture f;
-  EXPECT_EQ(GetRegistrySetting(f.s, "QVX", "", "Anything", "fallback"), "fallback");
-  EXPECT_FALSE(std::filesystem::exists(f.registry.path()));  // nothing created
-  SaveRegistrySetting(f.s, "QVX", "", "Other", "1");
-  const size_t before = f.registry.OpenHandles();
+  EXPECT_EQ(f.registry.OpenHandles(), 0u);
   EXPECT_EQ(GetRegistrySetting(f.s, "QVX", "", "Missing", "dflt"), "dflt");
-  EXPECT_EQ(f.registry.OpenHandles(), before + 1);  // the key is left open
-  EXPECT_EQ(GetRegistrySetting(f.s, "QVX", "", "Other", "dflt"), "1");
-  EXPECT_EQ(f.registry.OpenHandles(), before + 1);
+  EXPECT_EQ(f.registry.OpenHandles(), 1u);  // the key is left open on this path only
+  EXPECT_TRUE(f.Reports().empty());
 }
 
 TEST(RegistryEntry, NonStringValueRaisesWithItsType) {
   SettingsFixture f;
   ASSERT_TRUE(f.registry.SetDword(kQvxKey, "Flag", 1));
-  const Failure e = Raised([&] { GetRegistrySetting(f.s, "QVX", "", "Flag", ""); });
+  const Failure e = FailureOf([&] { GetRegistrySetting(f.s, "QVX", "", "Flag", ""); });
   EXPECT_EQ(e.number(), static_cast<int32_t>(0x800407D4));
   EXPECT_EQ(e.description(), "Registry data not a string");
   ASSERT_TRUE(f.registry.SetBinary(kQvxKey, "Blob", std::string("\x01\x02", 2)));
-  EXPECT_EQ(Raised([&] { GetRegistrySetting(f.s, "QVX", "", "Blob", ""); }).number(),
+  EXPECT_EQ(FailureOf([&] { GetRegistrySetting(f.s, "QVX", "", "Blob", ""); }).number(),
             static_cast<int32_t>(0x800407D3));
   EXPECT_TRUE(f.Reports().empty());         // raised to the caller, never reported here
   EXPECT_EQ(f.registry.OpenHandles(), 0u);  // the key was closed on the way out
-}
-
-TEST(RegistryEntry, AFailingPlatformReadReachesTheCallerAndClosesTheKey) {
-  SettingsFixture base;
-  FaultyRegistry faulty(base.registry);
-  SettingsFixture f(&faulty);
-  ASSERT_TRUE(base.registry.SetString(kQvxKey, "Key", "stored"));
-  faulty.raiseOnQuery = true;
-  EXPECT_EQ(Raised([&] { GetRegistrySetting(f.s, "QVX", "", "Key", "dflt"); }).number(),
-            err::kOutOfMemory);
-  EXPECT_EQ(faulty.closes, 1);
-  EXPECT_EQ(base.registry.OpenHandles(), 0u);
 }
 
 TEST(RegistryEntry, BlankNamesRaiseOnReadAndWrite) {
@@ -120,8 +93,9 @@ TEST(RegistryEntry, BlankNamesRaiseOnReadAndWrite) {
   for (const Row& row : rows) {
     SCOPED_TRACE(std::string("app '") + row.app + "' key '" + row.key + "'");
     SettingsFixture f;
-    for (const Failure& e : {Raised([&] { SaveRegistrySetting(f.s, row.app, "", row.key, "v"); }),
-                             Raised([&] { GetRegistrySetting(f.s, row.app, "", row.key, "d"); })}) {
+    for (const Failure& e :
+         {FailureOf([&] { SaveRegistrySetting(f.s, row.app, "", row.key, "v"); }),
+          FailureOf([&] { GetRegistrySetting(f.s, row.app, "", row.key, "d"); })}) {
       EXPECT_EQ(e.number(), static_cast<int32_t>(row.number));
       EXPECT_EQ(e.description(), row.description);
     }
@@ -146,6 +120,9 @@ TEST(RegistryEntry, PlatformFailures) {
       {"open other", &FaultyRegistry::open, 1010, false, 0x80040BC2,
        "Could not open registry section"},
       {"second query", &FaultyRegistry::query, platform::kErrorMoreData, false, 0, ""},
+      // A failing platform read reaches the caller, the key closed.
+      {"raising query", &FaultyRegistry::raiseOnQuery, err::kOutOfMemory, false,
+       static_cast<uint32_t>(err::kOutOfMemory), "Out of memory"},
   };
   for (const Row& row : rows) {
     SCOPED_TRACE(row.name);
@@ -166,7 +143,7 @@ TEST(RegistryEntry, PlatformFailures) {
       EXPECT_EQ(faulty.closes, 1);
       continue;
     }
-    const Failure e = Raised(call);
+    const Failure e = FailureOf(call);
     EXPECT_EQ(e.number(), static_cast<int32_t>(row.number));
     EXPECT_EQ(e.description(), row.description);
     EXPECT_EQ(base.registry.ReadString(kQvxKey, "Key"), "stored");

@@ -2,24 +2,54 @@
 // file is the store under test.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include "platform/registry_api.h"
-
+#include "settings/single_list.h"
 #include "sim/temp_folder.h"
 #include "sim/test_addin.h"
+#include "unit/support/failure_report.h"
 
 namespace qvx::testing {
 
 inline constexpr const char* kQvxKey = "Software\\Zenbrook\\QVX";
 
 using sim::TempFolder;
+using Strings = std::vector<std::string>;
 
 struct SettingsFixture : sim::TestAddin {
   // `registryOverride`: a registry of the test's own in place of the file.
   explicit SettingsFixture(platform::RegistryApi* registryOverride = nullptr)
       : sim::TestAddin({.registry = registryOverride}) {}
+
+  // Whether one report was shown, of a failure trapped under `label`.
+  ::testing::AssertionResult ReportedOnce(std::string_view label) const {
+    if (Reports().size() != 1) {
+      return ::testing::AssertionFailure() << Reports().size() << " reports";
+    }
+    return ReportIsTrap(Reports().front(), label);
+  }
 };
+
+// The items of a list in its order.
+inline Strings Items(const cSingleList& list) {
+  Strings items;
+  for (const auto& entry : list.dicList) items.push_back(entry.value);
+  return items;
+}
+
+// The bytes of a file; empty when there is none.
+inline std::string Slurp(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  std::ostringstream out;
+  out << in.rdbuf();
+  return out.str();
+}
 
 // A registry that hands every call on to `inner`; a test overrides the calls
 // it watches or makes fail.

@@ -45,7 +45,7 @@ TEST(TasksPerProject, GetItemIndexIsExactAndGetItemTrims) {
   EXPECT_TRUE(f.Reports().empty());
 }
 
-TEST(TasksPerProject, ToStringTrimsTheWholeAndSortsOnlyWhenAsked) {
+TEST(TasksPerProject, ToStringTrimsTheWholeAndSortsOnlyWhenAskedAndTheTabFormSkipsEmptyNames) {
   CatalogueFixture f;
   cTasksPerProject p;
   p.FromString(f.s, " beta,2011-1-1;Alpha,", ";");
@@ -58,14 +58,10 @@ TEST(TasksPerProject, ToStringTrimsTheWholeAndSortsOnlyWhenAsked) {
   p.FromString(f.s, "a_COLON_b_SCOLON_c_COMMA_d,2024-12-9", ";");
   EXPECT_EQ(Activities(p), (Strings{"a:b;c,d"}));
   EXPECT_EQ(p.ToString(f.s, ";", false), "a_COLON_b_SCOLON_c_COMMA_d,2024-12-9");
-}
-
-TEST(TasksPerProject, ToStringTabSkipsEmptyNamesWithOneMoreTabEach) {
-  CatalogueFixture f;
-  cTasksPerProject p;
-  EXPECT_EQ(p.ToStringTab(f.s), "\t ");
+  // The tab form skips empty names, with one more tab each.
   p.FromString(f.s, "a,;,;b,", ";");
   EXPECT_EQ(p.ToStringTab(f.s), "a\tb\t\t ");
+  EXPECT_EQ(cTasksPerProject().ToStringTab(f.s), "\t ");
 }
 
 // Activities are held by value, so only the control can be missing.

@@ -31,10 +31,8 @@ TEST(SimCategories, CategoriesFoundByNameOrIdThroughRenamesAndRemovals) {
   const struct {
     std::string key;
     std::string id;
-  } cases[] = {
-      {"Alpha", "none"},  {"GAMMA", alphaId}, {alphaId, alphaId}, {"Delta", "none"},
-      {deltaId, deltaId}, {"Beta", "none"},   {betaId, "none"},
-  };
+  } cases[] = {{"Alpha", "none"},  {"GAMMA", alphaId}, {alphaId, alphaId}, {"Delta", "none"},
+               {deltaId, deltaId}, {"Beta", "none"},   {betaId, "none"}};
   for (const auto& c : cases) EXPECT_EQ(idOf(c.key), c.id) << c.key;
   EXPECT_EQ(FailureOf([&] { categories.Call("Add", {Variant("gAMMA")}); }).number(),
             hresult::kInvalidArg);

@@ -94,11 +94,11 @@ TEST_F(RibbonHostTest, StaticAttributesStandWhereNoCallbackAnswers) {
     const char* label;
     bool enabled;
     const char* image;
-  } cases[] = {
-      {"static", "Fixed", false, "Help"}, {"bound", "From callback", false, "From callback"},
-      {"defaults", "", true, ""},         {"failing", "", true, ""},
-      {"unknown", "", true, ""},
-  };
+  } cases[] = {{"static", "Fixed", false, "Help"},
+               {"bound", "From callback", false, "From callback"},
+               {"defaults", "", true, ""},
+               {"failing", "", true, ""},
+               {"unknown", "", true, ""}};
   for (const auto& c : cases) {
     SCOPED_TRACE(c.id);
     const auto shown = window.Shown(c.id);
@@ -215,11 +215,7 @@ TEST_F(RibbonHostTest, InvalidationAsksAgainExactlyWhatWasInvalidated) {
   ribbonUi.Call("InvalidateControl", {Variant("")});
   window.Ribbon();
   EXPECT_TRUE(TakeCalls().empty());
-
-  ribbonUi.Call("Invalidate");
-  window.Ribbon();
-  EXPECT_EQ(TakeCalls(), all);
-  EXPECT_EQ(host.InvalidationCount(), 1);
+  // A whole invalidation: ribbon_host.qvx.
 }
 
 TEST_F(RibbonHostTest, InvalidationReachesEveryWindowOfTheRibbonAndOutlivesNone) {
@@ -249,6 +245,7 @@ TEST_F(RibbonHostTest, InvalidationReachesEveryWindowOfTheRibbonAndOutlivesNone)
   }
 }
 
+// Content the host rejects drops an empty menu: views_bad_input.qvx.
 TEST_F(RibbonHostTest, BackstageAndDynamicMenusShowWhenOpened) {
   int drops = 0;
   addin.Define("Content", [&drops](Args&) {
@@ -257,13 +254,11 @@ TEST_F(RibbonHostTest, BackstageAndDynamicMenusShowWhenOpened) {
         "<menu xmlns=\"http://schemas.microsoft.com/office/2009/07/customui\">"
         "<button id=\"cmdView1\" label=\"Mine\" tag=\"Mine\" onAction=\"Act\"/></menu>");
   });
-  addin.Define("Broken", [](Args&) { return Variant("<menu><button id=\"x\"></menu>"); });
   addin.Define("Act", [](Args&) { return Variant(); });
   RibbonWindow& window =
       Open(Document("<dynamicMenu id=\"dnViewsCal\" getContent=\"Content\" "
                     "invalidateContentOnDrop=\"true\"/>"
-                    "<dynamicMenu id=\"dnOnce\" getContent=\"Content\"/>"
-                    "<dynamicMenu id=\"dnBroken\" getContent=\"Broken\"/>",
+                    "<dynamicMenu id=\"dnOnce\" getContent=\"Content\"/>",
                     "",
                     "<backstage><tab id=\"bs\" label=\"Quorvix Client\"><firstColumn>"
                     "<taskGroup id=\"tg\"><category id=\"cat\"><task id=\"cmdAbout\" "
@@ -282,8 +277,6 @@ TEST_F(RibbonHostTest, BackstageAndDynamicMenusShowWhenOpened) {
   EXPECT_EQ(drops, 3) << "content kept until invalidated";
   EXPECT_EQ(window.Click("cmdView1"), UserActionResult::Done);
   EXPECT_FALSE(window.Shown("cmdView1").has_value()) << "a click closes the menu";
-  EXPECT_EQ(window.DropMenu("dnBroken"), UserActionResult::Done);
-  EXPECT_TRUE(window.DroppedMenu().children.empty());
   EXPECT_EQ(window.DropMenu("cmdAbout"), UserActionResult::NotThatKind);
   ASSERT_EQ(host.Actions().size(), 2u);
   EXPECT_EQ(host.Actions()[0].arguments, (std::vector<std::string>{"cmdAbout"}));

@@ -43,18 +43,9 @@ struct AboutKeyValue : ::testing::Test {
   WatchedRegistry registry{files};
 };
 
-TEST_F(AboutKeyValue, ReadsTheMachineHiveWithTheAboutBoxsAccess) {
-  ASSERT_TRUE(files.SetString(kMsinfo, "PATH", "C:\\Tools\\msinfo32.exe", Hive::LocalMachine));
-  std::string value = "before";
-  EXPECT_TRUE(fAbout::GetKeyValue(registry, Hive::LocalMachine, kMsinfo, "PATH", value));
-  EXPECT_EQ(value, "C:\\Tools\\msinfo32.exe");
-  EXPECT_EQ(registry.hive, Hive::LocalMachine);
-  EXPECT_EQ(registry.access, 0x2003Fu);
-  EXPECT_EQ(files.OpenHandles(), 0u);
-}
-
-TEST_F(AboutKeyValue, EachWayOutClosesTheKey) {
+TEST_F(AboutKeyValue, ReadsTheMachineHiveAndEachWayOutClosesTheKey) {
   ASSERT_TRUE(files.SetString(kMsinfo, "PATH", "C:\\x.exe", Hive::CurrentUser));  // wrong hive
+  ASSERT_TRUE(files.SetString(kMsinfo, "TOOL", "C:\\Tools\\msinfo32.exe", Hive::LocalMachine));
   ASSERT_TRUE(files.SetString(kMsinfo, "LONG", std::string(1024, 'x'), Hive::LocalMachine));
   ASSERT_TRUE(files.SetString(kMsinfo, "FITS", std::string(1023, 'x'), Hive::LocalMachine));
   ASSERT_TRUE(files.SetDword(kMsinfo, "FLAG", 7, Hive::LocalMachine));
@@ -63,8 +54,10 @@ TEST_F(AboutKeyValue, EachWayOutClosesTheKey) {
     const char* key;
     const char* name;
     bool found;
-    const char* value;  // what the out value holds afterwards
+    std::string value;  // what the out value holds afterwards
   } rows[] = {
+      {"a text value", kMsinfo, "TOOL", true, "C:\\Tools\\msinfo32.exe"},
+      {"the longest that fits with its terminator", kMsinfo, "FITS", true, std::string(1023, 'x')},
       {"no key in the machine hive", "SOFTWARE\\Other", "PATH", false, ""},
       {"no such value", kMsinfo, "PATH", false, "before"},
       {"longer than the buffer with its terminator", kMsinfo, "LONG", false, "before"},
@@ -76,11 +69,10 @@ TEST_F(AboutKeyValue, EachWayOutClosesTheKey) {
     EXPECT_EQ(fAbout::GetKeyValue(registry, Hive::LocalMachine, row.key, row.name, value),
               row.found);
     EXPECT_EQ(value, row.value);
+    EXPECT_EQ(registry.hive, Hive::LocalMachine);
+    EXPECT_EQ(registry.access, 0x2003Fu);
     EXPECT_EQ(files.OpenHandles(), 0u);
   }
-  std::string value;
-  EXPECT_TRUE(fAbout::GetKeyValue(registry, Hive::LocalMachine, kMsinfo, "FITS", value));
-  EXPECT_EQ(value.size(), 1023u);
 }
 
 TEST_F(AboutKeyValue, ARaisingReadStillClosesTheKey) {

@@ -88,14 +88,6 @@ TEST_F(SupportTest, GetVersionTakesTheMajorAndCachesIt) {
   EXPECT_EQ(GetVersion(s), 14);
 }
 
-TEST_F(SupportTest, ShowDefaultFolderLeavesAnOpenExplorerAlone) {
-  ConnectHost();
-  ShowDefaultFolder(s, host::olFolderCalendar);
-  ASSERT_EQ(host.Explorers().size(), 1u);
-  EXPECT_EQ(host.Explorers()[0]->folder(), host.Inbox());
-  EXPECT_TRUE(ui.MessageBoxes().empty());
-}
-
 // With no explorer the default folder is opened and shown: startup_no_explorer.qvx.
 TEST_F(SupportTest, ShowDefaultFolderTellsTheLastFailureInABox) {
   host.StartsWithoutExplorer();
