@@ -23,7 +23,12 @@ run_one() {  # OUT CPU_SECONDS TARGET
   cp -n fuzz/corpus/"$target"/* "$corpus"/ 2>/dev/null || true
   (
     ulimit -t "$secs"
-    exec nice -n 19 build/fuzz/fuzz/"$target" -max_total_time=1000000 -timeout=60 \
+    # Where the kernel groups processes by session (autogroup), nice ranks a
+    # process only within its group, and a build in another session would
+    # still share the machine half and half. So the target runs in a session
+    # of its own whose group is niced too (setsid execs in place: same pid).
+    exec setsid sh -c 'echo 19 >/proc/self/autogroup 2>/dev/null; exec nice -n 19 "$@"' _ \
+      build/fuzz/fuzz/"$target" -max_total_time=1000000 -timeout=60 \
       -rss_limit_mb=2048 -artifact_prefix="$findings/" -print_final_stats=1 "$corpus"
   ) >"$out/$target.log" 2>&1 &
   local pid=$! tick
