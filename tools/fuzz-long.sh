@@ -15,12 +15,12 @@
 # OUT/findings/<target>/.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+source tools/fuzz-lib.sh
 
 run_one() {  # OUT CPU_SECONDS TARGET
   local out=$1 secs=$2 target=$3
+  fuzz_prepare "$out" "$target"
   local corpus=$out/corpus/$target findings=$out/findings/$target
-  mkdir -p "$corpus" "$findings"
-  cp -n fuzz/corpus/"$target"/* "$corpus"/ 2>/dev/null || true
   (
     ulimit -t "$secs"
     # Where the kernel groups processes by session (autogroup), nice ranks a
@@ -54,11 +54,9 @@ secs=$1 out=$2
 shift 2
 targets=("$@")
 if [[ ${#targets[@]} -eq 0 ]]; then
-  targets=(fuzz_catalogue fuzz_keyed_list fuzz_registry_file fuzz_scenario_script
-           fuzz_variant_text fuzz_database_info)
+  targets=("${QVX_FUZZ_TARGETS[@]}")
 fi
 mkdir -p "$out"
-cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz -j2 --target "${targets[@]}"
-export -f run_one
+fuzz_build "${targets[@]}"
+export -f run_one fuzz_prepare
 printf '%s\n' "${targets[@]}" | xargs -P 2 -I{} bash -c 'run_one "$@"' _ "$out" "$secs" {}

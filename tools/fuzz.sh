@@ -10,23 +10,19 @@
 # corpus once fixed. New inputs found stay in build/fuzz/corpus/<target>/.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+source tools/fuzz-lib.sh
 seconds=${1:-10}
 shift || true
 targets=("$@")
 if [[ ${#targets[@]} -eq 0 ]]; then
-  targets=(fuzz_catalogue fuzz_keyed_list fuzz_registry_file fuzz_scenario_script
-           fuzz_variant_text fuzz_database_info)
+  targets=("${QVX_FUZZ_TARGETS[@]}")
 fi
-
-cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz -j2 --target "${targets[@]}"
+fuzz_build "${targets[@]}"
 
 status=0
 for target in "${targets[@]}"; do
-  corpus=build/fuzz/corpus/$target
-  findings=build/fuzz/findings/$target
-  mkdir -p "$corpus" "$findings"
-  cp -n fuzz/corpus/"$target"/* "$corpus"/ 2>/dev/null || true
+  fuzz_prepare build/fuzz "$target"
+  corpus=build/fuzz/corpus/$target findings=build/fuzz/findings/$target
   echo "== $target for ${seconds} s"
   if ! build/fuzz/fuzz/"$target" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 \
       -artifact_prefix="$findings/" -print_final_stats=1 "$corpus" 2>build/fuzz/"$target".log; then
