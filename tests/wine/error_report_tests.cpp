@@ -11,7 +11,6 @@
 #include "harness/companion_journal.h"
 #include "harness/registry_keys.h"
 #include "harness/ui_watcher.h"
-#include "sim/explorer.h"
 
 namespace qvx::winetest {
 namespace {
@@ -54,25 +53,6 @@ TEST(ErrorReport, AHostFailureShowsTheFirstReport) {
   EXPECT_EQ(FinishedLaunches(), std::vector<std::string>{"28"});
   EXPECT_EQ(session.BeginShutdown(), S_OK);
   EXPECT_TRUE(FindClientWindow() == nullptr);
-}
-
-TEST(ErrorReport, AHostThatCannotShowItsCalendarIsToldInAMessageBox) {
-  WriteSettings({{L"DBChoice", L"1"}});
-  Watcher().Take();
-  sim::Outlook::Options options;
-  options.withExplorer = false;
-  AddinSession session(options);
-  session.world().FailAt("Session.GetDefaultFolder", kHostError, "The folder is not there.");
-  session.Start();
-
-  const std::vector<SeenDialog> seen = Watcher().Take();
-  ASSERT_EQ(seen.size(), size_t{1});
-  EXPECT_TRUE(seen[0].messageBox);
-  EXPECT_EQ(seen[0].caption, std::wstring(L"Quorvix Client Addin"));
-  EXPECT_TRUE(seen[0].Shows(L"Can't access Outlook API!"));
-  // The start-up goes on after the box: the channel is open.
-  EXPECT_TRUE(FindClientWindow() != nullptr);
-  EXPECT_TRUE(session.world().Explorers().empty());
 }
 
 }  // namespace qvx::winetest

@@ -37,8 +37,8 @@ TEST(RibbonDispatch, BadNamesPointersAndArgumentsGiveErrors) {
   EXPECT_EQ(id, DISPID_UNKNOWN);
   VARIANT number = Arg(VT_I4);
   DISPPARAMS params{&number, nullptr, 1, 0};
-  UINT argError = 0;
-  EXPECT_EQ(d->Invoke(424242, IID_NULL, 0, DISPATCH_METHOD, &params, nullptr, nullptr, &argError),
+  UINT unused = 0;
+  EXPECT_EQ(d->Invoke(424242, IID_NULL, 0, DISPATCH_METHOD, &params, nullptr, nullptr, &unused),
             DISP_E_MEMBERNOTFOUND);
   EXPECT_EQ(d->Invoke(1000, IID_NULL, 0, DISPATCH_METHOD, nullptr, nullptr, nullptr, nullptr),
             E_POINTER);
@@ -59,6 +59,12 @@ TEST(RibbonDispatch, BadNamesPointersAndArgumentsGiveErrors) {
   EXPECT_EQ(InvokeByName(d, name, {Arg(VT_DISPATCH)}), E_INVALIDARG);  // a null object
   EXPECT_EQ(InvokeByName(d, name, {Arg(VT_I4), Arg(VT_I4)}), DISP_E_BADPARAMCOUNT);
   EXPECT_EQ(InvokeByName(d, name, {Arg(VT_RECORD)}), DISP_E_TYPEMISMATCH);
+  // The callbacks take no optional argument: an omitted one is refused, and named.
+  VARIANT omitted = Arg(VT_ERROR);
+  omitted.scode = DISP_E_PARAMNOTFOUND;
+  UINT argError = 99;
+  EXPECT_EQ(InvokeByName(d, name, {omitted}, nullptr, nullptr, &argError), DISP_E_PARAMNOTFOUND);
+  EXPECT_EQ(argError, 0u);
 
   com::IDTExtensibility2* addin = session.addin();
   EXPECT_EQ(addin->OnConnection(nullptr, com::ext_cm_Startup, nullptr, nullptr), E_POINTER);
