@@ -1,6 +1,5 @@
 // The platform seams on Windows: the DLL's resources, compiled by windres and
-// found by type, name and language; a read of HKEY_LOCAL_MACHINE with the about box's access; the
-// settings store's read of a value.
+// found by type, name and language; the settings store's read of a value.
 #include <windows.h>
 
 #include <cctype>
@@ -14,7 +13,6 @@
 #include "harness/check.h"
 #include "platform/win32/registry_win32.h"
 #include "platform/win32/resources_win32.h"
-#include "support/about_form.h"
 
 namespace qvx::winetest {
 namespace {
@@ -33,8 +31,8 @@ BOOL CALLBACK CountName(HMODULE, LPCWSTR, LPWSTR, LONG_PTR count) {
   return TRUE;
 }
 
-constexpr const char kTestKey[] = "SOFTWARE\\Quorvix Wine Tests\\MSINFO";
-constexpr const wchar_t kTestKeyW[] = L"SOFTWARE\\Quorvix Wine Tests\\MSINFO";
+constexpr const char kTestKey[] = "SOFTWARE\\Quorvix Wine Tests\\Values";
+constexpr const wchar_t kTestKeyW[] = L"SOFTWARE\\Quorvix Wine Tests\\Values";
 
 }  // namespace
 
@@ -66,24 +64,6 @@ TEST(Resources, TheDllHoldsEveryViewDocument) {
   }
   EXPECT_TRUE(resources.FindData("views_task", "Reported_Date_(filtered)", kLanguageEnglishUs));
   EXPECT_TRUE(!resources.FindData("VIEWS_TASK", "REPORTED_DATE_(FILTERED)", 1031));
-}
-
-// The about box's read of the machine hive on the real registry, with the
-// access it asks for; its failure paths are the native AboutKeyValue tests'.
-TEST(Registry, TheAboutBoxReadsTheMachineHive) {
-  const std::wstring path = L"C:\\Program Files\\Tools\\msinfo32.exe";
-  ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, kTestKeyW, L"PATH", REG_SZ, path.c_str(),
-                            static_cast<DWORD>((path.size() + 1) * sizeof(wchar_t))),
-            ERROR_SUCCESS);
-  win32::Win32RegistryApi registry;
-  std::string value = "before";
-  EXPECT_TRUE(fAbout::GetKeyValue(registry, platform::Hive::LocalMachine, kTestKey, "PATH", value));
-  EXPECT_EQ(value, std::string("C:\\Program Files\\Tools\\msinfo32.exe"));
-  const platform::OpenedKey opened =
-      registry.OpenA(platform::Hive::LocalMachine, kTestKey, platform::kKeyAllAccessRead);
-  EXPECT_EQ(opened.result, ERROR_SUCCESS);
-  EXPECT_TRUE(static_cast<bool>(opened.key));
-  RegDeleteTreeW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Quorvix Wine Tests");
 }
 
 // The settings store's read of a value, once through the wide call alone and

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstring>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "bench/catalogue_text_sample.h"
@@ -19,12 +20,6 @@
 namespace qvx::winetest {
 namespace {
 
-struct Start {
-  double connect = 0, complete = 0;                    // wall, milliseconds
-  double connectProcessor = 0, completeProcessor = 0;  // this thread's, milliseconds
-  double Wall() const { return connect + complete; }
-};
-
 // This thread's processor time (user and kernel) in milliseconds; Wine counts
 // it in the system's clock ticks, 10 ms each.
 double ThreadProcessorTime() {
@@ -36,30 +31,35 @@ double ThreadProcessorTime() {
   return ms(kernel) + ms(user);
 }
 
+// Wall and processor milliseconds of one call.
+template <class Call>
+std::pair<double, double> Timed(Call&& call) {
+  LARGE_INTEGER frequency, begin, end;
+  QueryPerformanceFrequency(&frequency);
+  const double processor = ThreadProcessorTime();
+  QueryPerformanceCounter(&begin);
+  call();
+  QueryPerformanceCounter(&end);
+  return {1000.0 * (end.QuadPart - begin.QuadPart) / frequency.QuadPart,
+          ThreadProcessorTime() - processor};
+}
+
 // COUNT starts of a fresh add-in object with the settings as they stand;
 // prints them under TITLE and adds the failed calls to `failures`.
 void TimeSeries(const char* title, int count, int& failures) {
-  LARGE_INTEGER frequency;
-  QueryPerformanceFrequency(&frequency);
-  const auto milliseconds = [&](LONGLONG ticks) { return 1000.0 * ticks / frequency.QuadPart; };
   std::printf("%s\n", title);
-  std::vector<Start> starts;
+  std::vector<double> walls;
+  double connectProcessor = 0, completeProcessor = 0;
   for (int round = 0; round < count; ++round) {
     ClearJournal();
     AddinSession session;
     win32::FaceCallCounts() = {};
-    LARGE_INTEGER begin, connected, completed;
-    const double processorBefore = ThreadProcessorTime();
-    QueryPerformanceCounter(&begin);
-    failures += FAILED(session.Connect());
-    QueryPerformanceCounter(&connected);
-    const double processorConnected = ThreadProcessorTime();
-    failures += FAILED(session.StartupComplete());
-    QueryPerformanceCounter(&completed);
-    const Start start{milliseconds(connected.QuadPart - begin.QuadPart),
-                      milliseconds(completed.QuadPart - connected.QuadPart),
-                      processorConnected - processorBefore,
-                      ThreadProcessorTime() - processorConnected};
+    const auto [connect, connectCpu] = Timed([&] { failures += FAILED(session.Connect()); });
+    const auto [complete, completeCpu] =
+        Timed([&] { failures += FAILED(session.StartupComplete()); });
+    connectProcessor += connectCpu;
+    completeProcessor += completeCpu;
+    walls.push_back(connect + complete);
     const uint64_t hostCalls = win32::FaceCallCounts().invokes;
     const size_t launches = FinishedLaunches().size();  // they end before the next start
     if (count <= 10 || round + 1 == count) {
@@ -67,24 +67,17 @@ void TimeSeries(const char* title, int count, int& failures) {
           "  start %d: OnConnection %.2f ms, OnStartupComplete %.2f ms, together %.2f ms; this "
           "thread's processor time %.0f + %.0f ms; %llu Invokes of the host, %zu companions "
           "started\n",
-          round + 1, start.connect, start.complete, start.Wall(), start.connectProcessor,
-          start.completeProcessor, static_cast<unsigned long long>(hostCalls), launches);
+          round + 1, connect, complete, connect + complete, connectCpu, completeCpu,
+          static_cast<unsigned long long>(hostCalls), launches);
     }
-    starts.push_back(start);
   }
-  double connectProcessor = 0, completeProcessor = 0;
-  for (const Start& start : starts) {
-    connectProcessor += start.connectProcessor;
-    completeProcessor += start.completeProcessor;
-  }
-  const double n = static_cast<double>(starts.size());
-  std::sort(starts.begin(), starts.end(),
-            [](const Start& a, const Start& b) { return a.Wall() < b.Wall(); });
+  const double n = count;
+  std::sort(walls.begin(), walls.end());
   std::printf(
-      "  %zu starts: median %.2f ms, minimum %.2f ms; this thread's processor time %.1f ms a "
+      "  %d starts: median %.2f ms, minimum %.2f ms; this thread's processor time %.1f ms a "
       "start on average (OnConnection %.1f ms, OnStartupComplete %.1f ms; goal 10 ms)\n",
-      starts.size(), starts[starts.size() / 2].Wall(), starts.front().Wall(),
-      (connectProcessor + completeProcessor) / n, connectProcessor / n, completeProcessor / n);
+      count, walls[walls.size() / 2], walls.front(), (connectProcessor + completeProcessor) / n,
+      connectProcessor / n, completeProcessor / n);
 }
 
 }  // namespace

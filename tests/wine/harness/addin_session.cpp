@@ -78,12 +78,9 @@ HWND FindClientWindow() {
   return FindWindowA(nullptr, "Client Window - Quorvix Client for Outlook");
 }
 
-DWORD PostFromAnotherProcess(const std::wstring& name, int value,
-                             const std::vector<std::wstring>& settings) {
-  std::wstring command =
-      L"\"" + ProgramFolder() + L"qvx_post_message.exe\" " + name + L" " + std::to_wstring(value);
-  for (const std::wstring& setting : settings) command += L" \"" + setting + L"\"";
-  return RunAndWait(std::move(command));
+DWORD PostFromAnotherProcess(const std::wstring& name, int value) {
+  return RunAndWait(L"\"" + ProgramFolder() + L"qvx_post_message.exe\" " + name + L" " +
+                    std::to_wstring(value));
 }
 
 }  // namespace qvx::winetest

@@ -78,10 +78,8 @@ HWND FindClientWindow();
 
 // Runs tests/wine's poster, which finds the listener window by its caption
 // from another process and posts the registered message `name` with `value`,
-// after writing each setting ("Name=Text") into the settings key, as the
-// companion does. Returns its exit code: 0 posted, 1 no window, 2 usage,
-// 3 post failed, 4 a setting not written.
-DWORD PostFromAnotherProcess(const std::wstring& name, int value,
-                             const std::vector<std::wstring>& settings = {});
+// as the companion does. Returns its exit code: 0 posted, 1 no window,
+// 2 usage, 3 post failed.
+DWORD PostFromAnotherProcess(const std::wstring& name, int value);
 
 }  // namespace qvx::winetest
