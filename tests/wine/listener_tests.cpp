@@ -38,6 +38,7 @@ TEST(Listener, IsAHiddenTopLevelWindowOfTheHostThreadUntilTheLastExplorerCloses)
   wchar_t caption[64] = {};
   GetWindowTextW(window, caption, 64);
   EXPECT_TRUE(std::wstring(caption) == L"probe");
+  SetWindowTextW(window, L"Client Window - Quorvix Client for Outlook");
 
   auto explorer = session.world().ActiveExplorer();
   ASSERT_TRUE(explorer != nullptr);

@@ -120,7 +120,8 @@ TEST(Ribbon, MarkupForEachHostAndPicturesThroughLoadImage) {
     const std::string markup = ribbon.GetCustomUI(ribbonId);
     EXPECT_TRUE(markup.rfind("<customUI", 0) == 0);
     KeepForTheSchemaTest(markup, file);
-    if (markup.find("loadImage=\"getImages\"") == std::string::npos) continue;
+    if (std::string_view(ribbonId) != "Microsoft.Outlook.Appointment") continue;
+    EXPECT_TRUE(markup.find("loadImage=\"getImages\"") != std::string::npos);
     for (const char* name : {"Report", "Withdraw"}) {
       std::vector<Variant> args{Variant(name)};
       Variant picture;

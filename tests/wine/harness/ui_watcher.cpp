@@ -93,11 +93,9 @@ void WatcherState::Scan() {
   std::erase_if(handled, [](HWND h) { return !IsWindow(h); });
   for (HWND hwnd : dialogs) {
     if (std::find(handled.begin(), handled.end(), hwnd) != handled.end()) continue;
-    // A dialog whose thread is busy (a test driving its own) is looked at
-    // again at the next scan: without its caption it could be taken for
-    // one the watcher must close.
+    // A dialog whose thread is busy is looked at again at the next scan.
     const std::optional<std::wstring> caption = TextIfAnswered(hwnd);
-    if (!caption || caption->rfind(kLeftToTheTest, 0) == 0) continue;
+    if (!caption) continue;
     SeenDialog dialog;
     dialog.caption = *caption;
     handled.push_back(hwnd);

@@ -6,9 +6,7 @@
 //
 // A message box is answered with its first button (OK, Yes); a form dialog
 // is closed with its close box, which its model takes as the user's close.
-// Nothing in the add-in knows about this: it sees an ordinary user. A dialog
-// whose caption begins with kLeftToTheTest belongs to a test that drives it
-// itself, and is left alone.
+// Nothing in the add-in knows about this: it sees an ordinary user.
 #pragma once
 
 #include <windows.h>
@@ -17,8 +15,6 @@
 #include <vector>
 
 namespace qvx::winetest {
-
-inline constexpr wchar_t kLeftToTheTest[] = L"Test: ";
 
 struct SeenDialog {
   std::wstring caption;
