@@ -204,7 +204,7 @@ TEST_P(ViewDocument, IsEightBitCrLfTextOfItsRowAndColumnsOfTheDictionary) {
                                heading == "Reported Date");
     if (leftEditable) def.editable = "1";
     EXPECT_EQ(column->ChildText("prop"), (def.user ? std::string(kUser) : "") + def.prop);
-    if (def.user) EXPECT_EQ(column->ChildText("userheading"), heading);
+    EXPECT_EQ(column->ChildText("userheading"), def.user ? heading : "");
     EXPECT_EQ(column->ChildText("type"), def.type);
     EXPECT_EQ(column->ChildText("editable"), def.editable);
     EXPECT_FALSE(column->ChildText("width").empty());
