@@ -8,7 +8,6 @@
 #include "bench_state.h"
 #include "catalogue_text_reference.h"
 #include "catalogue_text_sample.h"
-#include "settings/tasks_per_project_list.h"
 
 namespace qvx::bench {
 namespace {
@@ -25,69 +24,48 @@ void FreeBeforeReading(Tree& tree) {
   std::free(page);
 }
 
+template <class Code>
 void BM_CatalogueFromString(benchmark::State& state) {
   BenchState b;
   const std::string text = CatalogueText(static_cast<size_t>(state.range(0)), 20);
-  cTasksPerProjectList catalogue;
-  for (auto _ : state) {
-    state.PauseTiming();
-    FreeBeforeReading(catalogue.dicList);
-    state.ResumeTiming();
-    catalogue.FromString(b.s, text);
-    benchmark::DoNotOptimize(catalogue.dicList.Count());
-  }
-  if (!b.Clean() || catalogue.dicList.Count() != static_cast<size_t>(state.range(0))) {
-    state.SkipWithError("the catalogue was not read whole");
-  }
-  state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(text.size()));
-  state.counters["projects"] = static_cast<double>(catalogue.dicList.Count());
-}
-BENCHMARK(BM_CatalogueFromString)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
-
-void BM_CatalogueFromStringReference(benchmark::State& state) {
-  BenchState b;
-  const std::string text = CatalogueText(static_cast<size_t>(state.range(0)), 20);
-  ReferenceCatalogue catalogue;
+  typename Code::Tree catalogue;
   for (auto _ : state) {
     state.PauseTiming();
     FreeBeforeReading(catalogue);
     state.ResumeTiming();
-    ReferenceFromString(b.s, text, catalogue);
-    benchmark::DoNotOptimize(catalogue.entries.size());
+    Code::Read(b.s, text, catalogue);
+    benchmark::DoNotOptimize(Code::Count(catalogue));
+  }
+  if (!b.Clean() || Code::Count(catalogue) != static_cast<size_t>(state.range(0))) {
+    state.SkipWithError("the catalogue was not read whole");
   }
   state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(text.size()));
 }
-BENCHMARK(BM_CatalogueFromStringReference)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(BM_CatalogueFromString, Ours)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(BM_CatalogueFromString, Former)->Arg(10000)->Unit(benchmark::kMillisecond);
 
+template <class Code>
 void BM_CatalogueToString(benchmark::State& state) {
   BenchState b;
   const std::string text = CatalogueText(static_cast<size_t>(state.range(0)), 20);
-  cTasksPerProjectList catalogue;
-  catalogue.FromString(b.s, text);
+  typename Code::Tree catalogue;
+  Code::Read(b.s, text, catalogue);
   std::string written;
   for (auto _ : state) {
-    written = catalogue.ToString(b.s);
+    written = Code::Write(b.s, catalogue);
     benchmark::DoNotOptimize(written.data());
   }
   if (!b.Clean() || written != text) state.SkipWithError("the text did not round-trip");
   state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(text.size()));
 }
-BENCHMARK(BM_CatalogueToString)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
-
-void BM_CatalogueToStringReference(benchmark::State& state) {
-  BenchState b;
-  const std::string text = CatalogueText(static_cast<size_t>(state.range(0)), 20);
-  ReferenceCatalogue catalogue;
-  ReferenceFromString(b.s, text, catalogue);
-  std::string written;
-  for (auto _ : state) {
-    written = ReferenceToString(b.s, catalogue);
-    benchmark::DoNotOptimize(written.data());
-  }
-  if (written != text) state.SkipWithError("the text did not round-trip");
-  state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(text.size()));
-}
-BENCHMARK(BM_CatalogueToStringReference)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(BM_CatalogueToString, Ours)
+    ->Arg(1000)
+    ->Arg(10000)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(BM_CatalogueToString, Former)->Arg(10000)->Unit(benchmark::kMillisecond);
 
 void BM_CatalogueGetProjectsList(benchmark::State& state) {
   BenchState b;

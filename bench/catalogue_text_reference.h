@@ -16,6 +16,7 @@
 #include "core/variant.h"
 #include "schema/date_codecs.h"
 #include "schema/value_codecs.h"
+#include "settings/tasks_per_project_list.h"
 
 namespace qvx::bench {
 
@@ -116,5 +117,22 @@ inline std::string ReferenceToString(FailureSink& s, const ReferenceCatalogue& c
   }
   return result;
 }
+
+// The catalogue and the former code behind one face, so that one benchmark
+// measures either on the same text.
+struct Ours {
+  using Tree = cTasksPerProjectList;
+  static void Read(FailureSink& s, std::string_view text, Tree& tree) { tree.FromString(s, text); }
+  static std::string Write(FailureSink& s, Tree& tree) { return tree.ToString(s); }
+  static size_t Count(const Tree& tree) { return tree.dicList.Count(); }
+};
+struct Former {
+  using Tree = ReferenceCatalogue;
+  static void Read(FailureSink& s, std::string_view text, Tree& tree) {
+    ReferenceFromString(s, text, tree);
+  }
+  static std::string Write(FailureSink& s, Tree& tree) { return ReferenceToString(s, tree); }
+  static size_t Count(const Tree& tree) { return tree.entries.size(); }
+};
 
 }  // namespace qvx::bench

@@ -3,7 +3,6 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
-#include <chrono>
 #include <random>
 
 #include "bench_state.h"
@@ -29,56 +28,34 @@ std::string ListText(size_t count) {
   return Join(lines, kBreak);
 }
 
+// Ours, or the legacy reading (quadratic: one round) of the same text,
+// which must give the same rows in the same order.
 void BM_SingleListFromString(benchmark::State& state) {
   BenchState b;
   const std::string text = ListText(static_cast<size_t>(state.range(0)));
+  const bool legacy = state.range(1) != 0;
   cSingleList list;
+  std::vector<std::string> rows;
   for (auto _ : state) {
+    if (legacy) {
+      rows = ReferenceFromString(text, kBreak);
+    } else {
+      list.FromString(b.s, text, kBreak);
+    }
+    benchmark::ClobberMemory();
+  }
+  if (legacy) {
     list.FromString(b.s, text, kBreak);
-    benchmark::DoNotOptimize(list.dicList.Count());
+    std::vector<std::string> ours;
+    for (const auto& entry : list.dicList) ours.push_back(entry.value);
+    if (ours != rows) state.SkipWithError("the orders differ");
   }
   if (!b.Clean()) state.SkipWithError("a failure was reported");
   state.counters["entries"] = static_cast<double>(list.dicList.Count());
 }
-BENCHMARK(BM_SingleListFromString)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
-
-// The legacy reading, once per run (it is quadratic), with the ratio to ours
-// measured on the same text: "times_faster" is legacy time over ours.
-void BM_SingleListFromStringLegacyExchangeSort(benchmark::State& state) {
-  using Clock = std::chrono::steady_clock;
-  BenchState b;
-  const std::string text = ListText(static_cast<size_t>(state.range(0)));
-  double legacySeconds = 0;
-  std::vector<std::string> rows;
-  for (auto _ : state) {
-    const auto start = Clock::now();
-    rows = ReferenceFromString(text, kBreak);
-    benchmark::DoNotOptimize(rows.data());
-    const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
-    state.SetIterationTime(seconds);
-    legacySeconds += seconds;
-  }
-  legacySeconds /= static_cast<double>(state.iterations());
-
-  cSingleList list;
-  constexpr int kOurRuns = 20;
-  const auto start = Clock::now();
-  for (int i = 0; i < kOurRuns; ++i) list.FromString(b.s, text, kBreak);
-  const double ourSeconds = std::chrono::duration<double>(Clock::now() - start).count() / kOurRuns;
-
-  std::vector<std::string> ours;
-  for (const auto& entry : list.dicList) ours.push_back(entry.value);
-  if (ours != rows) state.SkipWithError("the orders differ");
-  if (!b.Clean()) state.SkipWithError("a failure was reported");
-  state.counters["legacy_ms"] = legacySeconds * 1e3;
-  state.counters["ours_ms"] = ourSeconds * 1e3;
-  state.counters["times_faster"] = legacySeconds / ourSeconds;
-}
-BENCHMARK(BM_SingleListFromStringLegacyExchangeSort)
-    ->Arg(1000)
-    ->Arg(10000)
-    ->Iterations(1)
-    ->UseManualTime()
+BENCHMARK(BM_SingleListFromString)
+    ->ArgNames({"entries", "legacy"})
+    ->ArgsProduct({{1000, 10000}, {0, 1}})
     ->Unit(benchmark::kMillisecond);
 
 // One refresh of a drop-down as the ribbon asks for it: per row its label by

@@ -11,7 +11,6 @@
 #include "core/dates.h"
 #include "reporting/color_codes.h"
 #include "reporting/tag_selection.h"
-#include "reporting/tag_values.h"
 #include "settings/my_settings.h"
 #include "sim/appointment.h"
 #include "sim/explorer.h"
@@ -35,9 +34,6 @@ struct TaggingWorld : sim::SimulatedHost, BenchState {
     }
     settings.MyProjectsTasks->FromString(s, catalogue);
     settings.Projects = settings.MyProjectsTasks->GetProjectsList(s);
-    settings.UpdateStartDateWithProjectStartDate = -1;
-    settings.UpdateAppointmentEndDateWith = -1;
-    settings.AppointmentEndDateFrom = 1;
     explorer = host.OpenExplorer(host.Calendar());
     for (int i = 0; i < count; ++i) {
       items.push_back(host.AddAppointment("Item " + std::to_string(i), DateSerial(2026, 3, 10),
@@ -60,36 +56,6 @@ void BM_TagSelection(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations() * state.range(0));
 }
 BENCHMARK(BM_TagSelection)->Arg(10)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
-
-// The ribbon's project choice: the activity cleared, then the project with
-// its start date, across the selection.
-void BM_TagProjectValue(benchmark::State& state) {
-  TaggingWorld world(static_cast<int>(state.range(0)), 1);
-  for (auto _ : state) {
-    world.s.ribbon.explorer.SELECTED_ACTIVITY_VALUE = "Build";
-    Main::TagProjectValueToItem(world.s, "Alpha");
-  }
-  if (!world.Clean()) state.SkipWithError("a failure was reported");
-  state.SetItemsProcessed(state.iterations() * state.range(0) * 2);
-}
-BENCHMARK(BM_TagProjectValue)->Arg(1000)->Unit(benchmark::kMillisecond);
-
-// An activity with its due date and a category on each item; the
-// categories are emptied between rounds so that they don't grow.
-void BM_TagActivityWithCategory(benchmark::State& state) {
-  TaggingWorld world(static_cast<int>(state.range(0)), 1);
-  world.s.main.objMySettings->TagTaskToCategories = -1;
-  Actions::GetCurrentSelectedItem(world.s, "ProjectValue", "Alpha", "");
-  for (auto _ : state) {
-    state.PauseTiming();
-    for (const auto& item : world.items) item->SetField("Categories", "");
-    state.ResumeTiming();
-    Main::TagTaskValueToItem(world.s, "Design");
-  }
-  if (!world.Clean()) state.SkipWithError("a failure was reported");
-  state.SetItemsProcessed(state.iterations() * state.range(0));
-}
-BENCHMARK(BM_TagActivityWithCategory)->Arg(1000)->Unit(benchmark::kMillisecond);
 
 // The colours of a large catalogue into the master category list.
 void BM_LoadProjectColorCodes(benchmark::State& state) {

@@ -1,4 +1,6 @@
-// The add-in's life through its host events, over the simulated host.
+// The add-in's life through its host events, over the simulated host. What
+// the connection and the start-up build: addin_connect.qvx and the startup
+// scenarios.
 #include <gtest/gtest.h>
 
 #include "addin/main_module.h"
@@ -26,27 +28,6 @@ class Lifecycle : public ::testing::Test {
   }
   World world;
 };
-
-TEST_F(Lifecycle, ConnectionReadsTheSettingsAndOnlyTheStartupBuildsTheRest) {
-  world.registry().SetString(scenario::kSettingsKey, "DBChoice", "3");
-  world.addin().OnConnection(world.host().Application(), 1, Object());
-  EXPECT_EQ(s().main.phase, AddinPhase::Connected);
-  EXPECT_TRUE(s().main.blnAddinConnected);
-  ASSERT_NE(s().main.objMySettings, nullptr);
-  EXPECT_EQ(s().main.objMySettings->DBChoice, 3);
-  EXPECT_FALSE(s().main.objOutlook.IsNothing());
-  EXPECT_FALSE(ListenerExists());
-  EXPECT_TRUE(world.system().Launches().empty());
-  EXPECT_EQ(s().main.objExplorersClient, nullptr);
-
-  // What the start-up then builds is proven by the startup and explorer scenarios.
-  world.addin().OnStartupComplete();
-  EXPECT_EQ(s().main.phase, AddinPhase::Started);
-  EXPECT_EQ(s().main.strToolName, "Client Tool");
-  EXPECT_NE(s().main.objInspectorsClient, nullptr);
-  EXPECT_NE(s().main.colViewNames, nullptr);
-  EXPECT_FALSE(s().err.pending());
-}
 
 TEST_F(Lifecycle, TearDownReleasesEverythingAndMayRunAgain) {
   Start(world);

@@ -97,33 +97,23 @@ class EventFieldTest : public ::testing::Test {
   void SetUp() override { holder = std::make_shared<Client>(sink, holder, seen); }
 };
 
-TEST_F(EventFieldTest, AssigningAnotherObjectMovesTheSubscriptions) {
+// Another object moves the subscriptions; an object without the events, or
+// an owner not held by a shared_ptr, is refused and the field left as it was.
+TEST_F(EventFieldTest, SetMovesTheSubscriptionsAndARefusedSetChangesNothing) {
   auto second = Application();
   holder->ouaMonitorApp.Set(app->AsObject());
-  EXPECT_EQ(app->HandlerCount("Quit"), 1u);
-  EXPECT_EQ(app->HandlerCount("Close"), 1u);
-  EXPECT_TRUE(holder->ouaMonitorApp.object().Is(app->AsObject()));
   holder->ouaMonitorApp.Set(second->AsObject());
-  EXPECT_EQ(app->HandlerCount("Quit"), 0u);
-  EXPECT_EQ(app->HandlerCount("Close"), 0u);
+  EXPECT_EQ(app->HandlerCount("Quit") + app->HandlerCount("Close"), 0u);
+  auto mute = std::make_shared<sim::FakeObject>("Folder");
+  EXPECT_THROW(holder->ouaMonitorApp.Set(mute->AsObject()), Failure);
+  EXPECT_TRUE(holder->ouaMonitorApp.object().Is(second->AsObject()));
   EXPECT_EQ(second->HandlerCount("Quit"), 1u);
-  holder->ouaMonitorApp.Release();
-  EXPECT_EQ(second->HandlerCount("Quit"), 0u);
-  EXPECT_FALSE(holder->ouaMonitorApp);
-  EXPECT_TRUE(seen.empty());
-}
-
-// An object without the events, or an owner not held by a shared_ptr: refused,
-// the field left as it was.
-TEST_F(EventFieldTest, ARefusedSetLeavesTheFieldAsItWas) {
   Client unshared(sink, holder, seen);
   EXPECT_THROW(unshared.ouaMonitorApp.Set(app->AsObject()), Failure);
   EXPECT_EQ(app->HandlerCount("Quit"), 0u);
-  holder->ouaMonitorApp.Set(app->AsObject());
-  auto mute = std::make_shared<sim::FakeObject>("Folder");
-  EXPECT_THROW(holder->ouaMonitorApp.Set(mute->AsObject()), Failure);
-  EXPECT_TRUE(holder->ouaMonitorApp.object().Is(app->AsObject()));
-  EXPECT_EQ(app->HandlerCount("Quit"), 1u);
+  holder->ouaMonitorApp.Release();
+  EXPECT_EQ(second->HandlerCount("Quit"), 0u);
+  EXPECT_FALSE(holder->ouaMonitorApp);
 }
 
 TEST_F(EventFieldTest, AHandlerRunsUnderItsTrapLabel) {

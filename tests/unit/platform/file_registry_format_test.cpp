@@ -28,7 +28,6 @@ TEST(RegistryFileKeys, APathBringsEachAncestorOnceAndFirst) {
       {{"\\a"}, {"\\a"}},  // no empty key before a leading separator
       {{"a\\"}, {"a", "a\\"}},
       {{"a\\\\b"}, {"a", "a\\", "a\\\\b"}},
-      {{"a\\b\\c", "a"}, {"a", "a\\b", "a\\b\\c"}},
   };
   for (const Case& c : cases) {
     Contents contents;

@@ -1,5 +1,6 @@
 // LoadProjectColorCodesToOutlook: the projects' colours in the session's
-// master category list.
+// master category list. Without the setting or before version 12:
+// tagging_colours.qvx.
 #include "reporting/color_codes.h"
 
 #include "sim/categories.h"
@@ -44,18 +45,6 @@ TEST_F(ColorCodesTest, FromVersionTwelveEachProjectAfterLettingMessagesThrough) 
   EXPECT_EQ(host().Pending().pumps() - pumps, 3u);
   EXPECT_FALSE(s().main.objNameSpace.IsNothing());
   EXPECT_EQ(ColorOf("Beta"), 8);
-}
-
-TEST_F(ColorCodesTest, NothingWithoutTheSettingOrFromAnEmptyCatalogue) {
-  Connect();
-  Load();
-  Set("AddProjectColorCodes", "-1");
-  Set("MyProjectsTasks", "");
-  settings().ReadSettings(s());
-  const size_t pumps = host().Pending().pumps();
-  Load();
-  EXPECT_EQ(host().Pending().pumps(), pumps);
-  EXPECT_EQ(CategoryCount(), 0u);
 }
 
 TEST_F(ColorCodesTest, ACatalogueReplacedWhileLoadingIsSafe) {

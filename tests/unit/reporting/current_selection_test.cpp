@@ -9,27 +9,8 @@ namespace {
 
 using CurrentSelection = testing::ReportTest;
 
-TEST_F(CurrentSelection, AnExplorerGivesItsItemOrItsSelection) {
-  auto a = Appointment("A");
-  auto b = Appointment("B");
-  auto explorer = Select({});
-  EXPECT_TRUE(Main::GetCurrentSelectedItem(t.s, true).IsNothing());
-  EXPECT_TRUE(Main::GetCurrentSelectedItemExplorer(t.s).IsNothing());
-
-  world.Select(*explorer, {b});
-  for (bool multiple : {true, false}) {
-    EXPECT_TRUE(Main::GetCurrentSelectedItem(t.s, multiple).Is(b->AsObject())) << multiple;
-  }
-
-  world.Select(*explorer, {b, a});
-  const Object several = Main::GetCurrentSelectedItem(t.s, true);
-  EXPECT_EQ(several.TypeName(), "Selection");
-  EXPECT_EQ(several.Get("Count").ToLong(), 2);
-  EXPECT_TRUE(Main::GetCurrentSelectedItem(t.s, false).Is(b->AsObject()));
-  EXPECT_TRUE(Main::GetCurrentSelectedItemExplorer(t.s).Is(b->AsObject()));
-  EXPECT_FALSE(t.s.report.blnLastItemFromInspector);
-}
-
+// An explorer's item or selection is what every command of the scenarios
+// works on (tag_and_report.qvx, report_first_item.qvx).
 TEST_F(CurrentSelection, AnInspectorGivesItsItemAndIsNoted) {
   auto a = Appointment("A");
   auto b = Appointment("B");

@@ -8,65 +8,51 @@
 namespace qvx {
 namespace {
 
-using Getter = std::string (*)(AddinState&);
+using S = cMySettings;
 
-TEST(DefaultValues, ProjectAndActivityFollowTheirOneSwitch) {
-  for (int16_t enabled : {int16_t{0}, int16_t{1}, int16_t{-1}}) {
-    testing::TestAddin t;
-    t.settings().EnableDefaultValueForProjectTask = enabled;
-    t.settings().DefaultValueForProject = "Internal";
-    t.settings().DefaultValueForTask = "Meetings";
-    EXPECT_EQ(GetDefaultProjectValue(t.s), enabled != 0 ? "Internal" : "") << enabled;
-    EXPECT_EQ(GetDefaultActivityValue(t.s), enabled != 0 ? "Meetings" : "") << enabled;
-  }
-}
+struct Default {
+  std::string (*get)(AddinState&);
+  const char* label;
+  int16_t S::*active;  // null: project and activity, which need no list in use
+  int16_t S::*enabled;
+  std::string S::*value;
+};
 
-TEST(DefaultValues, ACustomListNeedsToBeActiveAndSwitchedOn) {
-  using S = cMySettings;
-  struct Field {
-    Getter get;
-    int16_t S::*active;
-    int16_t S::*enabled;
-    std::string S::*value;
-  };
-  const Field fields[] = {
-      {GetDefaultField1Value, &S::CustomList1Active, &S::EnableDefaultValueForCustomField1,
-       &S::DefaultValueCustomField1},
-      {GetDefaultField2Value, &S::CustomList2Active, &S::EnableDefaultValueForCustomField2,
-       &S::DefaultValueCustomField2},
-      {GetDefaultField3Value, &S::CustomList3Active, &S::EnableDefaultValueForCustomField3,
-       &S::DefaultValueCustomField3},
-      {GetDefaultField4Value, &S::CustomList4Active, &S::EnableDefaultValueForCustomField4,
-       &S::DefaultValueCustomField4},
-  };
-  const std::tuple<int16_t, int16_t, bool> cases[] = {
-      {0, 1, false}, {1, 0, false}, {1, -1, true}, {-1, 1, true}};
-  for (const Field& field : fields) {
-    for (const auto& [active, enabled, gives] : cases) {
+const Default kDefaults[] = {
+    {GetDefaultProjectValue, "GetDefaultProjectValue", nullptr,
+     &S::EnableDefaultValueForProjectTask, &S::DefaultValueForProject},
+    {GetDefaultActivityValue, "GetDefaultActivityValue", nullptr,
+     &S::EnableDefaultValueForProjectTask, &S::DefaultValueForTask},
+    {GetDefaultField1Value, "GetDefaultField1Value", &S::CustomList1Active,
+     &S::EnableDefaultValueForCustomField1, &S::DefaultValueCustomField1},
+    {GetDefaultField2Value, "GetDefaultField2Value", &S::CustomList2Active,
+     &S::EnableDefaultValueForCustomField2, &S::DefaultValueCustomField2},
+    {GetDefaultField3Value, "GetDefaultField3Value", &S::CustomList3Active,
+     &S::EnableDefaultValueForCustomField3, &S::DefaultValueCustomField3},
+    {GetDefaultField4Value, "GetDefaultField4Value", &S::CustomList4Active,
+     &S::EnableDefaultValueForCustomField4, &S::DefaultValueCustomField4},
+};
+
+TEST(DefaultValues, EachFollowsItsSwitchAndACustomListMustAlsoBeActive) {
+  const std::tuple<int16_t, int16_t> cases[] = {{1, 0}, {0, 1}, {1, -1}, {-1, 1}};
+  for (const Default& d : kDefaults) {
+    for (const auto& [active, enabled] : cases) {
       testing::TestAddin t;
-      t.settings().*field.active = active;
-      t.settings().*field.enabled = enabled;
-      t.settings().*field.value = "V";
-      EXPECT_EQ(field.get(t.s), gives ? "V" : "")
-          << "field " << (&field - fields + 1) << " active " << active << " enabled " << enabled;
+      if (d.active) t.settings().*d.active = active;
+      t.settings().*d.enabled = enabled;
+      t.settings().*d.value = "V";
+      const bool gives = enabled != 0 && (d.active == nullptr || active != 0);
+      EXPECT_EQ(d.get(t.s), gives ? "V" : "") << d.label << " " << active << " " << enabled;
     }
   }
 }
 
 TEST(DefaultValues, WithoutASettingsRecordEachReportsUnderItsNameAndIsEmpty) {
-  const std::pair<Getter, const char*> getters[] = {
-      {GetDefaultProjectValue, "GetDefaultProjectValue"},
-      {GetDefaultActivityValue, "GetDefaultActivityValue"},
-      {GetDefaultField1Value, "GetDefaultField1Value"},
-      {GetDefaultField2Value, "GetDefaultField2Value"},
-      {GetDefaultField3Value, "GetDefaultField3Value"},
-      {GetDefaultField4Value, "GetDefaultField4Value"},
-  };
-  for (const auto& [get, label] : getters) {
+  for (const Default& d : kDefaults) {
     testing::TestAddin t;  // only the first report of a process is shown
     t.s.main.objMySettings.reset();
-    EXPECT_EQ(get(t.s), "");
-    EXPECT_TRUE(t.Reported(label)) << label;
+    EXPECT_EQ(d.get(t.s), "");
+    EXPECT_TRUE(t.Reported(d.label)) << d.label;
   }
 }
 

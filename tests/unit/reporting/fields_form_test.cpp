@@ -1,12 +1,10 @@
-// frmFields on the form model: the activities offered, the keys fields 9 and
-// 10 refuse, and saves that meet refusals, vanished items and messages.
+// frmFields on the form model: the activities offered, and saves that meet
+// refusals, vanished items and messages.
 #include "reporting/fields_form.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "companion/listener_form.h"
-#include "reporting/key_filter.h"
 #include "settings/single_list.h"
 #include "unit/reporting/tagging_fixture.h"
 
@@ -31,65 +29,21 @@ class FieldsForm : public TaggingTest {
     ASSERT_NE(it, list.end()) << row;
     form->RowChosen(control, static_cast<int>(it - list.begin()));
   }
-  static void Tag(sim::SimItem& item,
-                  std::initializer_list<std::pair<const char*, const char*>> values) {
-    for (const auto& [name, value] : values) {
-      item.UserProperties().Set(name, 1, Variant(std::string(value)));  // olText
-    }
-  }
   std::unique_ptr<frmFields> form;
 };
 
-TEST_F(FieldsForm, ChoosingAProjectOffersItsActivities) {
+// What the dialog shows and writes, the keys fields 9 and 10 refuse and a
+// reported item within a selection are fields_dialog.qvx's.
+TEST_F(FieldsForm, AProjectTypedInWithoutActivitiesOffersNoneAndAPasteIsNotFiltered) {
   Connect();
-  auto item = Appointment("Planning");
-  Open(item->AsObject());
-  EXPECT_TRUE(At("cboTask").list.empty());
+  Open(Appointment("Planning")->AsObject());
   Choose("cboProject", "Alpha");
   EXPECT_EQ(At("cboTask").list, (std::vector<std::string>{"Design", "Review"}));
-  EXPECT_EQ(At("cboTask").text, "");
-  // A project typed in that the catalogue has no activities for: none offered.
   form->Control("cboProject").Put("Text", Variant("Omega"));
   form->Raise("cboProject", "Click");
   EXPECT_TRUE(At("cboTask").list.empty());
-  EXPECT_TRUE(Reports().empty());
-}
-
-TEST_F(FieldsForm, FieldsNineAndTenTakeDigitsAndBackspaceOnly) {
-  Connect();
-  Open(Appointment("Planning")->AsObject());
-  for (const char* box : {"txtField9", "txtField10"}) {
-    for (int key = 1; key < 128; ++key) {
-      const bool passes = (key >= '0' && key <= '9') || key == kKeyBackspace;
-      EXPECT_EQ(form->KeyPress(box, key), passes ? key : 0) << box << " key " << key;
-    }
-  }
-  // The other boxes take any key.
-  EXPECT_EQ(form->KeyPress("txtField8", 'x'), 'x');
-  // A paste is not filtered.
   form->TextEdited("txtField9", "12.5 EUR");
   EXPECT_EQ(At("txtField9").text, "12.5 EUR");
-}
-
-// What the dialog shows and writes for one item, a reported one and a plain
-// selection is proven by the fields_dialog scenarios; a reported item inside
-// a selection is not.
-TEST_F(FieldsForm, ASelectionSavePassesOverAReportedItemUnderTheFlag) {
-  Set("DontAllowChangesToReportedItem", "-1");
-  Connect();
-  auto a = Appointment("A");
-  auto reported = Appointment("Reported");
-  Tag(*a, {{"ProjectValue", "Alpha"}, {"Field9Value", "7"}});
-  Tag(*reported, {{"ReportedID", "1"}, {"ProjectValue", "Alpha"}});
-  Select({a, reported});
-  Open(explorer->AsObject().Get("Selection").ToObject());
-  EXPECT_TRUE(form->MultipleSelection);
-  Choose("cboProject", "Beta");
-  Click("cmdSave");
-  EXPECT_TRUE(form->Unloaded());
-  EXPECT_EQ(Prop(*a, "ProjectValue"), "Beta");
-  EXPECT_EQ(Prop(*a, "Field9Value"), "");
-  EXPECT_EQ(Prop(*reported, "ProjectValue"), "Alpha");
   EXPECT_TRUE(Reports().empty());
 }
 
@@ -110,17 +64,6 @@ TEST_F(FieldsForm, AFailedSaveIsToldAndTheNextItemIsStillWritten) {
   EXPECT_EQ(world.ui().MessageBoxes()[0].style, platform::msgbox::kCritical);
   EXPECT_EQ(Prop(*b, "ProjectValue"), "Alpha");
   EXPECT_TRUE(form->Unloaded());
-}
-
-TEST_F(FieldsForm, AnItemThatVanishedWhileOpenIsNotHalfWritten) {
-  Connect();
-  auto item = Appointment("Gone");
-  Open(item->AsObject());
-  Choose("cboProject", "Alpha");
-  item->Delete();
-  Click("cmdSave");
-  EXPECT_EQ(Prop(*item, "ProjectValue"), "(none)");
-  EXPECT_TRUE(form->Unloaded()) << "the save ends, and the form with it";
 }
 
 // Between two items of a selection the save lets messages through: the

@@ -1,8 +1,7 @@
 // An add-in state connected to a simulated host, for the report pipeline:
 // launches are recorded (the stand-ins' folder is the add-in's, so the
 // launcher finds QuorvixClient.exe), boxes and forms are answered by the
-// scripted user interface. The settings start all off, with the titles and
-// names that ReadSettings gives an empty registry.
+// scripted user interface. The settings start all off.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -38,14 +37,6 @@ class ReportTest : public ::testing::Test {
   ReportTest() : t({.addinFolder = StandInFolder()}) {
     t.s.main.objOutlook = world.Application();
     t.s.main.objNameSpace = world.Application().Get("Session").ToObject();
-    cMySettings& c = t.settings();
-    c.ProjectTitle = "Project";
-    c.ActivityTitle = "Activity";
-    std::string* names[] = {&c.CustomList1Name,  &c.CustomList2Name,  &c.CustomList3Name,
-                            &c.CustomList4Name,  &c.CustomField5Name, &c.CustomField6Name,
-                            &c.CustomField7Name, &c.CustomField8Name, &c.CustomField9Name,
-                            &c.CustomField10Name};
-    for (int n = 1; n <= 10; ++n) *names[n - 1] = "Custom Field " + std::to_string(n);
   }
   void SetUp() override { ASSERT_FALSE(StandInFolder().empty()); }
 

@@ -10,8 +10,6 @@ namespace {
 
 namespace msgbox = platform::msgbox;
 
-constexpr char kProjectMissing[] = "\t- Project field is mandatory for reporting!";
-
 using ReportItems = testing::ReportTest;
 
 // Without the explorer's folder only a single item's own ways can give the store.
@@ -48,41 +46,6 @@ TEST_F(ReportItems, AnEmptySelectionAsksNothingButAsSuchGetsTheMessage) {
   EXPECT_TRUE(t.Reports().empty());
 }
 
-TEST_F(ReportItems, OneItemsFieldProblemsComeWithoutItsSubject) {
-  t.settings().ProjectMandatory = -1;
-  Select({Appointment("A")});
-  ReportItemsToDB(t.s);
-  EXPECT_TRUE(Launches().empty());
-  EXPECT_EQ(ProblemLists(), std::vector<std::string>{kProjectMissing});
-}
-
-TEST_F(ReportItems, OnlyTheFirstWhenMultipleReportingIsNotAllowed) {
-  t.settings().DontAllowMultipleItemsReporting = -1;
-  t.settings().ProjectMandatory = -1;
-  auto a = Appointment("A");
-  auto b = Appointment("B");  // missing its project, but never looked at
-  Tag(*a, "ProjectValue", "Alpha");
-  Select({a, b});
-  ReportItemsToDB(t.s);
-  EXPECT_EQ(Arguments(), std::vector<std::string>{"0|" + Store() + "|" + a->EntryId() + ";"});
-  EXPECT_TRUE(ProblemLists().empty());
-
-  world.Select(*world.ActiveExplorer(), {b, a});
-  ReportItemsToDB(t.s);
-  EXPECT_EQ(Launches().size(), 1u);
-  EXPECT_EQ(ProblemLists(), std::vector<std::string>{kProjectMissing});
-}
-
-TEST_F(ReportItems, TheItemOfAnInspector) {
-  auto task = Task("Write report");
-  Select({Appointment("A")});
-  world.OpenInspector(task);
-  ReportItemsToDB(t.s);
-  EXPECT_EQ(Arguments(), std::vector<std::string>{"0|" + world.Tasks()->storeId() + "|" +
-                                                  task->EntryId() + ";"});
-  EXPECT_EQ(task->saveCount(), 0);
-}
-
 TEST_F(ReportItems, AnItemOfAnotherClassEndsTheValidation) {
   auto a = Appointment("A");
   auto mail = world.AddMail("Mail", world.Calendar());
@@ -93,7 +56,8 @@ TEST_F(ReportItems, AnItemOfAnotherClassEndsTheValidation) {
   EXPECT_TRUE(t.Reported("Main.ReportToDB"));  // IsRecurring, of the second item
 }
 
-// An item that has gone ends the validation: report_refused_item.qvx.
+// An item that has gone ends the validation: report_refused_item.qvx; the
+// first item alone and an inspector's item: report_first_item.qvx.
 
 }  // namespace
 }  // namespace qvx

@@ -1,5 +1,5 @@
-// Actions::TagProjectToItem and IsCustomFieldProperty: the property, the
-// category, the save, and items that have gone or refuse.
+// Actions::TagProjectToItem: the property, the category, the save, and items
+// that refuse. An item gone meanwhile: tagging_selection_guard.qvx.
 #include "reporting/tag_item.h"
 
 #include "sim/faults.h"
@@ -9,19 +9,6 @@ namespace qvx::testing {
 namespace {
 
 using TagItemTest = TaggingTest;
-
-TEST(IsCustomFieldProperty, OnlyFieldsOneToEightCaseIncluded) {
-  const struct {
-    std::string_view name;
-    bool custom;
-  } rows[] = {{"Field1Value", true},    {"Field4Value", true},  {"Field5Value", true},
-              {"Field8Value", true},    {"Field9Value", false}, {"Field10Value", false},
-              {"field1value", false},   {"FIELD2VALUE", false}, {"ProjectValue", false},
-              {"ActivityValue", false}, {"Field0Value", false}, {"", false}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(Actions::IsCustomFieldProperty(row.name), row.custom) << row.name;
-  }
-}
 
 TEST_F(TagItemTest, WritesATextPropertyOverTheOldOneAndSavesIfAsked) {
   Connect();
@@ -66,43 +53,20 @@ TEST_F(TagItemTest, CategoryFollowsTheSettingsOfThePropertyKind) {
   }
 }
 
-TEST_F(TagItemTest, NothingIsTakenOutOfTheCategoriesAndEmptyOnEmptyStaysEmpty) {
+TEST_F(TagItemTest, NothingIsTakenOutOfTheCategories) {
   Set("TagProjectToCategories", "-1");
   Connect();
   auto item = Appointment("Planning");
   item->SetField("Categories", "Alpha");
   Tag(*item, "ProjectValue", "Alpha");
   EXPECT_EQ(Categories(*item), "Alpha,Alpha");
-  auto empty = Appointment("Empty");
-  Tag(*empty, "ProjectValue", "");
-  EXPECT_EQ(Categories(*empty), "");
 }
 
-TEST_F(TagItemTest, AnOccurrenceGetsValueAndDatesButNoCategory) {
-  Set("TagProjectToCategories", "-1");
-  Set("UpdateStartDateWithProjectStartDate", "-1");
-  Connect();
-  auto series = host().AddRecurringAppointment("Weekly", ComposeDate({2026, 3, 2, 9, 0, 0}),
-                                               ComposeDate({2026, 3, 2, 10, 0, 0}));
-  auto occurrence = host().Occurrence(*series, ComposeDate({2026, 3, 9, 9, 0, 0}));
-  EXPECT_TRUE(Tag(*occurrence, "ProjectValue", "Alpha"));
-  EXPECT_EQ(Prop(*occurrence, "ProjectValue"), "Alpha");
-  EXPECT_EQ(Date(*occurrence, "Start"), DateSerial(2026, 3, 2));
-  EXPECT_EQ(Categories(*occurrence), "");
-  // The series itself is no occurrence: it gets its category.
-  Tag(*series, "ProjectValue", "Beta");
-  EXPECT_EQ(Categories(*series), "Beta");
-}
-
+// An occurrence and its series: tag_dates.qvx.
 // Only a value the property refuses is reported; it ends the tag unsaved.
 TEST_F(TagItemTest, RefusalsArePassedOverButARefusedValueIsReported) {
   Set("TagProjectToCategories", "-1");
   Connect();
-  auto gone = Appointment("Gone");
-  const Object handle = gone->AsObject();
-  gone->Delete();
-  EXPECT_TRUE(Actions::TagProjectToItem(s(), handle, "ProjectValue", "Alpha", true));
-  EXPECT_TRUE(gone->UserProperties().list().empty());
   auto noProperties = Appointment("A");
   const int savesBefore = noProperties->saveCount();
   noProperties->FailMember("UserProperties", sim::hresult::kFail, "You don't have permission.");

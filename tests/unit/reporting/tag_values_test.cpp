@@ -1,5 +1,6 @@
-// The ribbon's tagging commands: project, activity and custom list values,
-// the activity rule of a project change, and the tagging-in-progress flag.
+// The ribbon's tagging commands: project and activity values, the activity
+// rule of a project change, and the tagging-in-progress flag. Custom list
+// values by number are tagging_custom_fields.qvx's.
 #include "reporting/tag_values.h"
 
 #include "settings/tasks_per_project_list.h"
@@ -15,32 +16,17 @@ class TagValuesTest : public TaggingTest {
   std::string& selectedActivity() { return s().ribbon.explorer.SELECTED_ACTIVITY_VALUE; }
 };
 
-TEST_F(TagValuesTest, AProjectOutsideTheListKeepsTheActivityAndAnUnreadCatalogueIsReadFirst) {
+// A project outside the catalogue and an empty selection:
+// tagging_project_activity.qvx and tagging_selection_guard.qvx.
+TEST_F(TagValuesTest, AnUnreadCatalogueIsReadFirst) {
   auto item = Appointment("Planning");
   Select({item});
-  selectedActivity() = "Build";
-  Main::TagProjectValueToItem(s(), "Free text");
-  EXPECT_EQ(Prop(*item, "ProjectValue"), "Free text");
-  EXPECT_EQ(Prop(*item, "ActivityValue"), "(none)");
-  EXPECT_EQ(selectedActivity(), "Build");
-
   settings().MyProjectsTasks = std::make_shared<cTasksPerProjectList>();
   selectedActivity() = "Design";
   Main::TagProjectValueToItem(s(), " Beta ");
   EXPECT_EQ(settings().MyProjectsTasks->dicList.Count(), 3u);
   EXPECT_EQ(Prop(*item, "ActivityValue"), "");  // Design isn't Beta's
   EXPECT_EQ(Prop(*item, "ProjectValue"), " Beta ");
-}
-
-TEST_F(TagValuesTest, NothingSelectedWritesNothing) {
-  auto item = Appointment("Planning");
-  Select({});
-  Main::TagProjectValueToItem(s(), "Alpha");
-  Main::TagTaskValueToItem(s(), "Design");
-  Main::TagCustomFieldValueToItem(s(), 1, "x");
-  EXPECT_TRUE(item->UserProperties().list().empty());
-  EXPECT_FALSE(s().tagging.blnTaggingInProgress);
-  EXPECT_TRUE(Reports().empty());
 }
 
 TEST_F(TagValuesTest, TheFlagIsSetWhileTheSelectionIsWorked) {
@@ -72,31 +58,6 @@ TEST_F(TagValuesTest, AnInspectorsNewItemTakesAProjectButNoActivity) {
   // The inspector's save gave it an id: now the activity goes in too.
   Main::TagTaskValueToItem(s(), "Build");
   EXPECT_EQ(Prop(*item, "ActivityValue"), "Build");
-}
-
-TEST_F(TagValuesTest, CustomListValuesByFieldNumber) {
-  const struct {
-    int16_t field;
-    std::string_view property;  // "" for none
-  } rows[] = {{1, "Field1Value"},
-              {2, "Field2Value"},
-              {3, "Field3Value"},
-              {4, "Field4Value"},
-              {0, ""},
-              {5, ""},
-              {10, ""},
-              {-1, ""}};
-  for (const auto& row : rows) {
-    auto item = Appointment("Planning");
-    Select({item});
-    Main::TagCustomFieldValueToItem(s(), row.field, "Berlin");
-    if (row.property.empty()) {
-      EXPECT_TRUE(item->UserProperties().list().empty()) << row.field;
-    } else {
-      EXPECT_EQ(Prop(*item, row.property), "Berlin") << row.field;
-      EXPECT_EQ(item->UserProperties().list().size(), 1u) << row.field;
-    }
-  }
 }
 
 }  // namespace

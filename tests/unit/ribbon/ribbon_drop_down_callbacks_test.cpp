@@ -53,7 +53,6 @@ TEST_F(RibbonDropDowns, EveryListEndsInOneBlankRow) {
   EXPECT_EQ(RowsOf("cboTaskCal"), (Rows{"Design", "Review", ""}));
   EXPECT_EQ(RowsOf("cboTask"), (Rows{"Build", ""}));
   EXPECT_EQ(RowsOf("cboField2"), (Rows{"North", "South", ""}));
-  EXPECT_EQ(RowsOf("cboField2CalTable"), (Rows{"North", "South", ""}));
   EXPECT_EQ(RowsOf("cboField1Task"), (Rows{""}));  // an empty list
   // A project without activities: one blank row.
   s().ribbon.explorer.SELECTED_PROJECT_VALUE = "Beta";

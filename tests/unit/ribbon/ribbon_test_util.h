@@ -80,10 +80,4 @@ class RibbonInspectorTest : public ::testing::Test {
   Object inspector;
 };
 
-// Every id of the tree, in document order.
-inline void CollectIds(const sim::MarkupElement& e, std::vector<std::string>& ids) {
-  if (const std::string* id = e.Attribute("id")) ids.push_back(*id);
-  for (const sim::MarkupElement& child : e.children) CollectIds(child, ids);
-}
-
 }  // namespace qvx::testing

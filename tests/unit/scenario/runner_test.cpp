@@ -48,7 +48,6 @@ TEST(ScenarioRunner, WhatAScriptsAuthorSeesOfEachOutcome) {
       {"registry set OnlyAName\n", 2, {"t.qvx:1:", "usage: registry set NAME TEXT"}},
       {"registry set A b\npost client many\n", 2, {"t.qvx:2:", "is not a whole number"}},
       {"expect addin sleeping\n", 2, {"t.qvx:1:", "is not one of"}},
-      {"answer msgbox maybe\n", 2, {"t.qvx:1:", "is not one of"}},
       {"host fail No.Such.Path 5 x\n", 2, {"t.qvx:1:", "no such object"}},
       {"expect msgbox a b nonsense\n", 2, {"t.qvx:1:", "unknown message box style"}},
       // A value below a subkey is not one of the settings key itself.

@@ -52,16 +52,5 @@ TEST(ScenarioScript, MalformedLinesNameTheirLine) {
   }
 }
 
-TEST(ScenarioScript, OddBytesAreWordsNotCrashes) {
-  std::string text = "registry set X \"";
-  text += std::string("\xff\xfe\x00\x01", 4);
-  text += "\"\n\x80\x81 \xc3\n";
-  Script script;
-  const auto error = ParseScript(text, "t", script);
-  ASSERT_FALSE(error.has_value());
-  ASSERT_EQ(script.statements.size(), 2u);
-  EXPECT_EQ(script.statements[0].words[3].size(), 4u);
-}
-
 }  // namespace
 }  // namespace qvx::scenario

@@ -83,11 +83,4 @@ class ForwardingRegistry : public platform::RegistryApi {
   platform::RegistryApi& inner_;
 };
 
-// The first line of a report, "At Line: 20", and its label line.
-inline std::string ReportLine(const std::string& report, size_t index) {
-  size_t start = 0;
-  for (size_t i = 0; i < index; ++i) start = report.find("\r\n", start) + 2;
-  return report.substr(start, report.find("\r\n", start) - start);
-}
-
 }  // namespace qvx::testing

@@ -17,51 +17,33 @@ using testing::Strings;
 TEST(TasksPerProject, FromStringSkipsEmptyPartsAndKeepsTheFirstOfAName) {
   CatalogueFixture f;
   cTasksPerProject p;
-  p.FromString(f.s, ";Zeta,2011-4-15;;alpha;ZETA,2012-1-1;,;Beta,x-y-z", ";");
+  p.FromString(f.s, ";Zeta,2011-4-15;;alpha;ZETA,2012-1-1;,;  Beta  ,x-y-z", ";");
   // Not sorted; "alpha" has no date field; "," is an activity with no name.
-  EXPECT_EQ(Activities(p), (Strings{"Zeta", "alpha", "", "Beta"}));
+  EXPECT_EQ(Activities(p), (Strings{"Zeta", "alpha", "", "  Beta  "}));
   EXPECT_EQ(p.dicList.Find("zeta")->DueDate, DateSerial(2011, 4, 15));
   EXPECT_EQ(p.dicList.Find("alpha")->DueDate, kEmptyDate);
-  EXPECT_EQ(p.dicList.Find("Beta")->DueDate, kEmptyDate);
+  EXPECT_EQ(p.dicList.Find("  Beta  ")->DueDate, kEmptyDate);
+  // The index is found exactly; not found is the count, though the dictionary
+  // has the name in another case. An item is trimmed.
+  EXPECT_EQ(p.getItemIndex(f.s, "alpha"), 1);
+  EXPECT_EQ(p.getItemIndex(f.s, "ALPHA"), 4);
+  EXPECT_TRUE(p.dicList.Exists("ALPHA"));
+  EXPECT_EQ(p.GetItem(f.s, 3), "Beta");
+  EXPECT_EQ(p.GetItem(f.s, 4), "");
+  EXPECT_EQ(p.GetItem(f.s, -1), "");
   EXPECT_TRUE(f.Reports().empty());
   EXPECT_FALSE(f.s.err.pending());
   p.FromString(f.s, "", ";");
   EXPECT_EQ(p.dicList.Count(), 0u);
 }
 
-TEST(TasksPerProject, GetItemIndexIsExactAndGetItemTrims) {
+// The whole is trimmed, so the first name's blank is lost; names are escaped.
+TEST(TasksPerProject, ToStringTrimsTheWholeAndEscapesNames) {
   CatalogueFixture f;
   cTasksPerProject p;
-  p.FromString(f.s, "  Design  ,;Review,;Test,", ";");
-  EXPECT_EQ(p.getItemIndex(f.s, "Review"), 1);
-  EXPECT_EQ(p.getItemIndex(f.s, "Test"), 2);
-  EXPECT_EQ(p.getItemIndex(f.s, "TEST"),
-            3);  // not found is the count, though the dictionary has it
-  EXPECT_TRUE(p.dicList.Exists("TEST"));
-  EXPECT_EQ(p.getItemIndex(f.s, ""), 3);
-  EXPECT_EQ(p.GetItem(f.s, 0), "Design");
-  EXPECT_EQ(p.GetItem(f.s, 3), "");
-  EXPECT_EQ(p.GetItem(f.s, -1), "");
-  EXPECT_TRUE(f.Reports().empty());
-}
-
-TEST(TasksPerProject, ToStringTrimsTheWholeAndSortsOnlyWhenAskedAndTheTabFormSkipsEmptyNames) {
-  CatalogueFixture f;
-  cTasksPerProject p;
-  p.FromString(f.s, " beta,2011-1-1;Alpha,", ";");
-  EXPECT_EQ(p.ToString(f.s, ";", false), "beta,2011-1-1;Alpha,");  // first name's blank lost
-  EXPECT_EQ(Activities(p), (Strings{" beta", "Alpha"}));
-  EXPECT_EQ(p.ToString(f.s, "|", true), "beta,2011-1-1|Alpha,");  // " beta" sorts first
-  p.FromString(f.s, "b,;A,;c,", ";");
-  EXPECT_EQ(p.ToString(f.s, ";", true), "A,;b,;c,");
-  EXPECT_EQ(Activities(p), (Strings{"A", "b", "c"}));  // the sort replaced the dictionary
-  p.FromString(f.s, "a_COLON_b_SCOLON_c_COMMA_d,2024-12-9", ";");
-  EXPECT_EQ(Activities(p), (Strings{"a:b;c,d"}));
-  EXPECT_EQ(p.ToString(f.s, ";", false), "a_COLON_b_SCOLON_c_COMMA_d,2024-12-9");
-  // The tab form skips empty names, with one more tab each.
-  p.FromString(f.s, "a,;,;b,", ";");
-  EXPECT_EQ(p.ToStringTab(f.s), "a\tb\t\t ");
-  EXPECT_EQ(cTasksPerProject().ToStringTab(f.s), "\t ");
+  p.FromString(f.s, " beta,2011-1-1;a_COLON_b_SCOLON_c_COMMA_d,2024-12-9", ";");
+  EXPECT_EQ(Activities(p), (Strings{" beta", "a:b;c,d"}));
+  EXPECT_EQ(p.ToString(f.s, ";", false), "beta,2011-1-1;a_COLON_b_SCOLON_c_COMMA_d,2024-12-9");
 }
 
 // Activities are held by value, so only the control can be missing.

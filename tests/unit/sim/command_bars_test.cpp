@@ -1,7 +1,7 @@
 // The command bars of the simulated host: what scenarios rely on without
 // seeing it (who raises Click and Change, cancelling a built-in command,
-// FindControl's reach, what a restart keeps). Captions, lists and controls
-// as a user sees them are proven by tests/scenarios/bars_*.qvx and
+// FindControl's reach). Captions, lists and controls as a user sees them,
+// and what a restart keeps, are proven by tests/scenarios/bars_*.qvx and
 // toolbar_user_side.qvx.
 #include <gtest/gtest.h>
 
@@ -11,12 +11,9 @@
 #include "sim/inspector.h"
 #include "sim/item_classes.h"
 #include "sim/outlook.h"
-#include "unit/sim/sim_test_util.h"
 
 namespace qvx::sim {
 namespace {
-
-using testing::FailureOf;
 
 const Variant kMissing = Variant::Missing();
 
@@ -99,27 +96,6 @@ TEST_F(SimCommandBarsTest, FindControlByTagTypeAndVisibility) {
   EXPECT_TRUE(
       find(menuBar, {popupType, kMissing, menuTag, Variant(true), Variant(true)}).IsNothing());
   EXPECT_TRUE(find(menuBar, {popupType, kMissing, menuTag}).Is(popup));
-}
-
-TEST_F(SimCommandBarsTest, ARestartDropsWhatWasTemporaryAndKeepsWhatWasLeftBehind) {
-  const Object temporary = AddBar("Quorvix", true);
-  const Object kept = AddBar("Quorvix Custom Fields", false);
-  const Object keptButton = AddControl(kept, {Long(host::msoControlButton)});
-  const Object temporaryButton =
-      AddControl(kept, {Long(host::msoControlButton), kMissing, kMissing, kMissing, Variant(true)});
-  const Object menuEntry =
-      AddControl(bars.Get("ActiveMenuBar").ToObject(),
-                 {Long(host::msoControlPopup), Long(1), kMissing, kMissing, Variant(true)});
-  world.Restart();
-  EXPECT_EQ(FailureOf([&] { bars.Call("Item", {Variant("Quorvix")}); }).number(),
-            hresult::kInvalidArg);
-  EXPECT_EQ(FailureOf([&] { temporary.Get("Name"); }).number(), hresult::kFail);
-  EXPECT_TRUE(bars.Call("Item", {Variant("Quorvix Custom Fields")}).ToObject().Is(kept));
-  const Object controls = kept.Get("Controls").ToObject();
-  EXPECT_EQ(controls.Get("Count").ToLong(), 1);
-  EXPECT_TRUE(controls.Call("Item", {Long(1)}).ToObject().Is(keptButton));
-  EXPECT_EQ(FailureOf([&] { temporaryButton.Get("Caption"); }).number(), hresult::kFail);
-  EXPECT_EQ(FailureOf([&] { menuEntry.Get("Caption"); }).number(), hresult::kFail);
 }
 
 }  // namespace

@@ -23,18 +23,5 @@ TEST(MessageQueue, WorkRunsInOrderOnceEvenWhenItPostsOrPumpsItself) {
   EXPECT_TRUE(queue.empty());
 }
 
-TEST(MessageQueue, SelfPostingWorkStopsAtTheLimit) {
-  MessageQueue queue;
-  int runs = 0;
-  std::function<void()> again = [&] {
-    ++runs;
-    queue.Post(again);
-  };
-  queue.Post(again);
-  EXPECT_EQ(queue.RunPending(5), 5u);
-  EXPECT_EQ(runs, 5);
-  EXPECT_EQ(queue.size(), 1u);
-}
-
 }  // namespace
 }  // namespace qvx::sim

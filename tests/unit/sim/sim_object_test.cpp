@@ -1,6 +1,5 @@
 // FakeObject beyond the Object contract: faults by kind of access, call
-// counts, shared fault tables, faults that pile up or replace, and event
-// binding.
+// counts, faults that pile up or replace, and event binding.
 #include <gtest/gtest.h>
 
 #include "sim/contract_subject.h"
@@ -34,15 +33,6 @@ TEST(SimObject, CountsCallsIncludingFailedOnesButPeekIsFree) {
   subject->FailMember("Count", 5, "no");
   EXPECT_EQ(subject->Peek("Count").ToLong(), 3);  // no fault, not counted
   EXPECT_EQ(subject->CallCount("COUNT"), 2);
-}
-
-TEST(SimObject, SharedFaultTablesApplyToEveryHolder) {
-  auto a = std::make_shared<FakeObject>("Thing");
-  auto b = std::make_shared<FakeObject>("Thing");
-  b->Property("Name", "b");
-  b->ShareFaults(a->sharedFaults());
-  a->FailMember("Name", 13, "Type mismatch");
-  EXPECT_EQ(FailureOf([&] { b->AsObject().Get("Name"); }).number(), 13);
 }
 
 TEST(SimObject, CountedFaultsPileUpWhileAFaultOfTheNextCallOnlyReplaces) {

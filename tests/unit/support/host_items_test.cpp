@@ -4,7 +4,6 @@
 #include "core/host_constants.h"
 #include "sim/appointment.h"
 #include "sim/explorer.h"
-#include "sim/inspector.h"
 #include "sim/mail_item.h"
 #include "sim/task_item.h"
 #include "sim/user_properties.h"
@@ -26,9 +25,7 @@ TEST_F(HostItems, GetUserDefinedFieldValueByTypeSelector) {
     Variant value, defaultValue, expected;
   } rows[] = {
       {Integer, none, Variant("7"), Variant(int16_t{7})},
-      {Integer, none, Variant(int32_t{0}), zero},
       {Integer, none, Variant("x"), zero},
-      {Integer, none, none, zero},
       {Integer, Variant(int32_t{42}), none, Variant(int32_t{42})},
       {Integer, Variant("5"), none, Variant("5")},
       {Integer, Variant("abc"), Variant("9"), zero},
@@ -36,18 +33,13 @@ TEST_F(HostItems, GetUserDefinedFieldValueByTypeSelector) {
       {Currency, Variant::Null(), none, zero},
       {Currency, Variant(2.5), none, Variant(qvx::Currency{25000})},
       {Date, none, day, noDate},
-      {Date, day, none, day},
       {Date, Variant("2026-01-02"), none, day},
       {Date, Variant("soon"), none, noDate},
       {String, none, Variant("x"), Variant("x")},
-      {String, none, none, Variant("")},
       {String, Variant(""), Variant("x"), Variant("x")},
-      {String, Variant("P1"), Variant("x"), Variant("P1")},
       {String, Variant(int32_t{12}), none, Variant("12")},
       {Boolean, none, Variant(int32_t{-1}), Variant(true)},
-      {Boolean, none, none, Variant(false)},
       {Boolean, none, Variant("yes"), none},
-      {Boolean, Variant(true), none, Variant(true)},
       {Boolean, Variant(int32_t{0}), Variant(int32_t{-1}), Variant(false)},
   };
   for (size_t i = 0; i < std::size(rows); ++i) {
@@ -85,11 +77,10 @@ TEST_F(HostItems, AnUnconvertibleValueIsReportedAndGivesEmpty) {
 }
 
 TEST_F(HostItems, UserNameFromMailboxElseTheSystemsUser) {
-  const std::pair<const char*, const char*> rows[] = {
-      {"Mailbox - Jane Doe", "Jane Doe"}, {"MAILBOX - Jane Doe  ", "Jane Doe"},
-      {"Doe, Jane", "Doe, Jane"},         {"jane@example.invalid", "jane@example.invalid"},
-      {"Personal Folders", ""},           {" - ", ""},
-  };
+  const std::pair<const char*, const char*> rows[] = {{"MAILBOX - Jane Doe  ", "Jane Doe"},
+                                                      {"Doe, Jane", "Doe, Jane"},
+                                                      {"Personal Folders", ""},
+                                                      {" - ", ""}};
   ConnectHost();
   for (const auto& [mailbox, user] : rows) {
     host.SetMailboxName(mailbox);
@@ -121,19 +112,13 @@ TEST_F(HostItems, OccurrencesAreRecurringAppointmentsButNotTheMaster) {
   EXPECT_FALSE(IsRecurrenceAppointmentOccurence(s, Object()));
 }
 
-TEST_F(HostItems, ActiveWindowOfInspector) {
-  EXPECT_FALSE(IsActiveWindowOfInspector(s));  // no host at all
-  ConnectHost();
-  const auto explorer = host.ActiveExplorer();
-  const auto inspector =
-      host.OpenInspector(host.AddAppointment("A", DateSerial(2026, 1, 2), DateSerial(2026, 1, 2)));
-  EXPECT_TRUE(IsActiveWindowOfInspector(s));
-  host.Activate(*explorer);
+// An inspector or an explorer in front: inspector_bars.qvx.
+TEST_F(HostItems, NoHostOrNoWindowIsNoInspectorInFront) {
   EXPECT_FALSE(IsActiveWindowOfInspector(s));
+  ConnectHost();
   host.SetQuitOnLastWindowClose(false);
-  host.Close(*inspector);
-  host.Close(*explorer);
-  EXPECT_FALSE(IsActiveWindowOfInspector(s));  // no window at all
+  host.Close(*host.ActiveExplorer());
+  EXPECT_FALSE(IsActiveWindowOfInspector(s));
   EXPECT_TRUE(ui.Forms().empty());
 }
 
