@@ -9,17 +9,11 @@
 #include <memory>
 #include <string>
 
-#include "addin/addin.h"
 #include "addin/explorers_event_client.h"
 #include "bench_platform.h"
 #include "catalogue_text_sample.h"
-#include "platform/posix/posix_objects.h"
-#include "platform/posix/posix_system.h"
-#include "platform/posix/scripted_ui.h"
-#include "platform/posix/socket_message_windows.h"
 #include "sim/appointment.h"
 #include "sim/explorer.h"
-#include "sim/outlook.h"
 #include "sim/ribbon/ribbon_addin.h"
 #include "sim/ribbon/ribbon_host.h"
 #include "state/addin_state.h"
@@ -36,9 +30,10 @@ std::string ListOf(const std::string& stem, int count) {
 
 // A started add-in in a host whose explorer shows the calendar with two
 // appointments, its explorer ribbon shown by the simulated Office.
-struct ExplorerWorld : bench::BenchPlatform {
+struct ExplorerWorld : bench::BenchPlatform, bench::BenchAddin {
   // `version` 16 shows the ribbon; 11 has no ribbon and fills the command bars.
-  explicit ExplorerWorld(int64_t version) {
+  explicit ExplorerWorld(int64_t version)
+      : bench::BenchAddin(static_cast<bench::BenchPlatform&>(*this)) {
     host.SetVersion(std::to_string(version) + ".0.0.0");
     Set("DBChoice", "1");
     Set("DBConnectionString", "DSN=Timesheets");
@@ -51,37 +46,17 @@ struct ExplorerWorld : bench::BenchPlatform {
          {"CustomField1List", "CustomField2List", "CustomField3List", "CustomField4List"}) {
       Set(list, ListOf(list, 1000));
     }
-    system = std::make_unique<platform::PosixSystemServices>(options);
-    objects = std::make_unique<platform::PosixObjectFactory>(*system);
-    objects->RegisterRunning("Outlook.Application", [this] { return host.Application(); });
     first = host.AddAppointment("First", DateSerial(2026, 3, 2), DateSerial(2026, 3, 3),
                                 host.Calendar());
     second = host.AddAppointment("Second", DateSerial(2026, 3, 4), DateSerial(2026, 3, 5),
                                  host.Calendar());
-    addin = std::make_unique<QVXClientAddin>(platform::Platform{.registry = &registry,
-                                                                .objects = objects.get(),
-                                                                .ui = &ui,
-                                                                .system = system.get(),
-                                                                .windows = &windows});
-    addin->OnConnection(host.Application(), 1, Object());
-    addin->OnStartupComplete();
+    Start();
     explorer = host.ActiveExplorer();
     host.SwitchFolder(*explorer, host.Calendar());
     window = &ribbon.Open("Microsoft.Outlook.Explorer", explorer->AsObject());
     window->Ribbon();
   }
-  ~ExplorerWorld() {
-    addin->OnBeginShutdown();
-    addin.reset();
-  }
-
-  sim::Outlook host;
-  std::unique_ptr<platform::PosixSystemServices> system;
-  std::unique_ptr<platform::PosixObjectFactory> objects;
-  platform::ScriptedUserInterface ui;
-  platform::SocketMessageWindows windows;
   std::shared_ptr<sim::SimAppointment> first, second;
-  std::unique_ptr<QVXClientAddin> addin;
   std::shared_ptr<sim::SimExplorer> explorer;
   sim::AddinRibbonClient client{[this]() -> QVXClientAddin& { return *addin; }};
   sim::RibbonHost ribbon{client};

@@ -7,14 +7,8 @@
 #include <memory>
 #include <string>
 
-#include "addin/addin.h"
 #include "bench_platform.h"
 #include "catalogue_text_sample.h"
-#include "platform/posix/posix_objects.h"
-#include "platform/posix/posix_system.h"
-#include "platform/posix/scripted_ui.h"
-#include "platform/posix/socket_message_windows.h"
-#include "sim/outlook.h"
 
 namespace {
 
@@ -37,26 +31,11 @@ void RunStartup(benchmark::State& state, bool configured) {
   Bench bench(configured, configured ? static_cast<size_t>(state.range(0)) : 0);
   for (auto _ : state) {
     state.PauseTiming();
-    platform::PosixSystemServices system(bench.options);
-    platform::PosixObjectFactory objects(system);
-    platform::ScriptedUserInterface ui;
-    platform::SocketMessageWindows windows;
-    sim::Outlook host;
-    objects.RegisterRunning("Outlook.Application", [&host] { return host.Application(); });
-    auto addin = std::make_unique<QVXClientAddin>(platform::Platform{.registry = &bench.registry,
-                                                                     .objects = &objects,
-                                                                     .ui = &ui,
-                                                                     .system = &system,
-                                                                     .windows = &windows});
-    const Object application = host.Application();
+    auto world = std::make_unique<bench::BenchAddin>(bench);
     state.ResumeTiming();
-
-    addin->OnConnection(application, 1, Object());
-    addin->OnStartupComplete();
-
+    world->Start();
     state.PauseTiming();
-    addin->OnBeginShutdown();
-    addin.reset();
+    world.reset();
     state.ResumeTiming();
   }
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "bench_state.h"
+#include "catalogue_text_sample.h"
 #include "core/dates.h"
 #include "reporting/color_codes.h"
 #include "reporting/tag_selection.h"
@@ -28,11 +29,7 @@ struct TaggingWorld : sim::SimulatedHost, BenchState {
     system.SetDoEventsHook([this] { host.Pending().RunPending(); });
     s.main.objMySettings = std::make_unique<cMySettings>();
     cMySettings& settings = *s.main.objMySettings;
-    std::string catalogue = "Alpha,5,2026-3-2,2026-6-30:Design,2026-4-15;Review,";
-    for (int i = 1; i < projects; ++i) {
-      catalogue += "\r\nProject " + std::to_string(i) + "," + std::to_string(i % 25) + ",,:Work,";
-    }
-    settings.MyProjectsTasks->FromString(s, catalogue);
+    settings.MyProjectsTasks->FromString(s, CatalogueText(static_cast<size_t>(projects), 1));
     settings.Projects = settings.MyProjectsTasks->GetProjectsList(s);
     explorer = host.OpenExplorer(host.Calendar());
     for (int i = 0; i < count; ++i) {

@@ -3,13 +3,12 @@
 // what the host makes of them.
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <set>
-#include <sstream>
 
 #include "ribbon/custom_ui.h"
 #include "ribbon/ribbon_callbacks.h"
 #include "settings/my_settings.h"
+#include "unit/file_bytes.h"
 #include "unit/ribbon/ribbon_documents.h"
 #include "unit/ribbon/ribbon_test_util.h"
 
@@ -23,10 +22,7 @@ bool Contains(const std::string& text, const std::string& part) {
 }
 
 std::string RecordedDocument(const std::string& name) {
-  std::ifstream in(QVX_TEST_RESOURCES_DIR "/ribbon/" + name + ".xml", std::ios::binary);
-  std::ostringstream out;
-  out << in.rdbuf();
-  return out.str();
+  return TestResource("ribbon/" + name + ".xml");
 }
 
 class RibbonDocumentMarkup : public ::testing::Test {

@@ -16,8 +16,8 @@
 namespace qvx::platform {
 namespace {
 
+using qvx::testing::FileBytes;
 using qvx::testing::kQvxKey;
-using qvx::testing::Slurp;
 using qvx::testing::TempFolder;
 
 void Spill(const std::string& path, std::string_view bytes) {
@@ -93,7 +93,7 @@ TEST(FileRegistry, UnreadableFilesReadAsNoValuesAndAreNeverRewrittenByReads) {
     EXPECT_TRUE(sample.SetString(kQvxKey, "CustomField1List", "a\r\nb\tc%d"));
     EXPECT_TRUE(sample.SetDword(kQvxKey, "Count", 7));
     EXPECT_TRUE(sample.SetBinary(kQvxKey, "Blob", std::string("\0\xff", 2)));
-    return Slurp(folder.File("sample.txt"));
+    return FileBytes(folder.File("sample.txt"));
   }();
   struct Row {
     std::string name;
@@ -127,7 +127,7 @@ TEST(FileRegistry, UnreadableFilesReadAsNoValuesAndAreNeverRewrittenByReads) {
       EXPECT_FALSE(std::filesystem::exists(folder.File("sub")));
       continue;
     }
-    EXPECT_EQ(Slurp(path), *row.bytes);
+    EXPECT_EQ(FileBytes(path), *row.bytes);
     EXPECT_TRUE(Identity(path) == before);
     if (row.name.starts_with("cut")) {
       ASSERT_TRUE(registry.SetString(kQvxKey, "A", "1"));
@@ -137,7 +137,7 @@ TEST(FileRegistry, UnreadableFilesReadAsNoValuesAndAreNeverRewrittenByReads) {
       RegistryApi::Key key = 0;
       EXPECT_EQ(registry.CreateKey(Hive::CurrentUser, u"Software\\Zenbrook\\QVX", key),
                 kErrorAccessDenied);
-      EXPECT_EQ(Slurp(path), *row.bytes);
+      EXPECT_EQ(FileBytes(path), *row.bytes);
     }
   }
 }

@@ -35,7 +35,7 @@ std::string Listing(platform::FileRegistry& registry) {
 }
 
 std::string Golden(const std::string& name) {
-  return testing::Slurp(QVX_TEST_RESOURCES_DIR "/settings/" + name);
+  return testing::TestResource("settings/" + name);
 }
 
 // Reads with values already in the record, so that a test sees which

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -13,6 +11,7 @@
 #include "settings/single_list.h"
 #include "sim/temp_folder.h"
 #include "sim/test_addin.h"
+#include "unit/file_bytes.h"
 #include "unit/support/failure_report.h"
 
 namespace qvx::testing {
@@ -41,14 +40,6 @@ inline Strings Items(const cSingleList& list) {
   Strings items;
   for (const auto& entry : list.dicList) items.push_back(entry.value);
   return items;
-}
-
-// The bytes of a file; empty when there is none.
-inline std::string Slurp(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  std::ostringstream out;
-  out << in.rdbuf();
-  return out.str();
 }
 
 // A registry that hands every call on to `inner`; a test overrides the calls
