@@ -8,8 +8,8 @@
 //   wine qvx_wine_tests.exe --time-startup [PROJECTS [STARTS]]   (startup_timing.h)
 //
 // FILTER is a substring of "Suite.Name" (GoogleTest's flags work too). Exit
-// code 0 when every test ran without failure and at least one ran. --show brings up one of the
-// add-in's dialogs and leaves it open until it is closed.
+// code 0 when every test ran without failure and at least one ran. --show
+// brings up one of the add-in's dialogs and leaves it open until it is closed.
 #include <windows.h>
 
 #include <algorithm>
