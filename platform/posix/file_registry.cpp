@@ -226,6 +226,7 @@ RegistryApi::Key FileRegistry::HandleFor(Hive hive, const std::string& keyPath) 
     it = handleIndex_.emplace(folded, handlePaths_.size()).first;
     handlePaths_.push_back(OpenKeyPath{hive, keyPath});
   }
+  ++handlePaths_[it->second].opens;
   ++openHandles_;
   return static_cast<Key>(it->second + 1);
 }
@@ -345,8 +346,11 @@ long FileRegistry::QueryValueUtf8(Key key, std::string_view name, uint32_t units
 }
 
 long FileRegistry::CloseKey(Key key) {
-  if (PathOf(key) == nullptr) return kErrorInvalidHandle;
-  if (openHandles_ > 0) --openHandles_;
+  // A handle closed as often as it was opened is gone, as on Windows, so that
+  // closing twice cannot hide a key left open elsewhere.
+  if (PathOf(key) == nullptr || handlePaths_[key - 1].opens == 0) return kErrorInvalidHandle;
+  --handlePaths_[key - 1].opens;
+  --openHandles_;
   return kErrorSuccess;
 }
 

@@ -127,6 +127,7 @@ class FileRegistry final : public RegistryApi {
   struct OpenKeyPath {
     Hive hive;
     std::string path;
+    size_t opens = 0;  // opens of this path not yet closed: one handle serves them all
   };
 
   HiveFile& File(Hive hive) noexcept { return hive == Hive::LocalMachine ? machine_ : user_; }

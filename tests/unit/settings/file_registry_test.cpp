@@ -240,6 +240,7 @@ TEST(FileRegistry, RegistryCallResults) {
   EXPECT_EQ(registry.CloseKey(again), kErrorSuccess);
   EXPECT_EQ(registry.CloseKey(key), kErrorSuccess);
   EXPECT_EQ(registry.OpenHandles(), 0u);
+  EXPECT_EQ(registry.CloseKey(key), kErrorInvalidHandle);  // closed as often as opened
   EXPECT_EQ(registry.CloseKey(999), kErrorInvalidHandle);
   EXPECT_EQ(registry.SetStringValue(999, u"Name", u"x"), kErrorInvalidHandle);
   const std::filesystem::directory_iterator files(folder.File("sub/dir"));
