@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <numeric>
 #include <utility>
 
 #include "core/text.h"
@@ -227,7 +228,6 @@ RegistryApi::Key FileRegistry::HandleFor(Hive hive, const std::string& keyPath) 
     handlePaths_.push_back(OpenKeyPath{hive, keyPath});
   }
   ++handlePaths_[it->second].opens;
-  ++openHandles_;
   return static_cast<Key>(it->second + 1);
 }
 
@@ -345,12 +345,16 @@ long FileRegistry::QueryValueUtf8(Key key, std::string_view name, uint32_t units
   return kErrorSuccess;
 }
 
+size_t FileRegistry::OpenHandles() const noexcept {
+  return std::accumulate(handlePaths_.begin(), handlePaths_.end(), size_t{0},
+                         [](size_t sum, const OpenKeyPath& p) { return sum + p.opens; });
+}
+
 long FileRegistry::CloseKey(Key key) {
   // A handle closed as often as it was opened is gone, as on Windows, so that
   // closing twice cannot hide a key left open elsewhere.
   if (PathOf(key) == nullptr || handlePaths_[key - 1].opens == 0) return kErrorInvalidHandle;
   --handlePaths_[key - 1].opens;
-  --openHandles_;
   return kErrorSuccess;
 }
 

@@ -95,7 +95,7 @@ class FileRegistry final : public RegistryApi {
   std::vector<NamedValue> ListValues(std::string_view keyPath, Hive hive = Hive::CurrentUser);
   bool KeyExists(std::string_view keyPath, Hive hive = Hive::CurrentUser);
   // Handles opened and not yet closed (the store leaves one open on purpose).
-  size_t OpenHandles() const noexcept { return openHandles_; }
+  size_t OpenHandles() const noexcept;
   // How often a file's bytes were read (for tests and benchmarks).
   size_t FileReads() const noexcept { return fileReads_; }
   // How old a file's change time must be, when it is read, for a later
@@ -154,7 +154,6 @@ class FileRegistry final : public RegistryApi {
   HiveFile machine_;
   std::vector<OpenKeyPath> handlePaths_;
   std::unordered_map<std::string, size_t> handleIndex_;
-  size_t openHandles_ = 0;
   size_t fileReads_ = 0;
   std::chrono::nanoseconds settle_ = std::chrono::milliseconds(100);
 };
