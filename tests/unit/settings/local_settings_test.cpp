@@ -10,6 +10,7 @@ namespace qvx {
 namespace {
 
 using testing::kQvxKey;
+using testing::Listing;
 using testing::SettingsFixture;
 
 std::shared_ptr<sim::FakeObject> MakeBar(int32_t top, int32_t left, int32_t position, int32_t row) {
@@ -40,11 +41,9 @@ TEST(ToolbarPosition, SavesTheFourValuesOfEachBarSkippingAFailingOne) {
     auto bar = MakeBar(120, -7, 1, 3);
     if (selector == 1) bar->FailMember("Left", 0x80004005, "Unspecified error");
     modLocalSettings::SaveToolbarPosition(f.s, selector, bar->AsObject());
-    std::string saved;
-    for (const auto& v : f.registry.ListValues(kQvxKey)) saved += v.name + "=" + v.value.data + " ";
-    EXPECT_EQ(saved, selector == 0
-                         ? "MainTBTop=120 MainTBLeft=-7 MainTBPosition=1 MainTBRowIndex=3 "
-                         : "CustomTBTop=120 CustomTBPosition=1 CustomTBRowIndex=3 ");
+    EXPECT_EQ(Listing(f.registry),
+              selector == 0 ? "MainTBTop=120\nMainTBLeft=-7\nMainTBPosition=1\nMainTBRowIndex=3\n"
+                            : "CustomTBTop=120\nCustomTBPosition=1\nCustomTBRowIndex=3\n");
     EXPECT_FALSE(f.s.err.pending());
   }
 }

@@ -14,6 +14,7 @@ namespace {
 
 using testing::Items;
 using testing::kQvxKey;
+using testing::Listing;
 using testing::SettingsFixture;
 using testing::Strings;
 
@@ -23,16 +24,6 @@ struct Settings : SettingsFixture {
     ASSERT_TRUE(registry.SetString(kQvxKey, name, text));
   }
 };
-
-// Each stored value as "name=text", a line each, in the order written.
-std::string Listing(platform::FileRegistry& registry) {
-  std::string listing;
-  for (const auto& v : registry.ListValues(kQvxKey)) {
-    listing += v.name + (v.value.type == platform::kRegSz ? "=" : "=(not text)") + v.value.data;
-    listing += "\n";
-  }
-  return listing;
-}
 
 std::string Golden(const std::string& name) {
   return testing::TestResource("settings/" + name);

@@ -35,6 +35,17 @@ struct SettingsFixture : sim::TestAddin {
   }
 };
 
+// Each value of the settings key as "name=text", a line each, in the order
+// written.
+inline std::string Listing(platform::FileRegistry& registry) {
+  std::string listing;
+  for (const auto& v : registry.ListValues(kQvxKey)) {
+    listing += v.name + (v.value.type == platform::kRegSz ? "=" : "=(not text)") + v.value.data;
+    listing += "\n";
+  }
+  return listing;
+}
+
 // The items of a list in its order.
 inline Strings Items(const cSingleList& list) {
   Strings items;
