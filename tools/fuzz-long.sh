@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # A long fuzzing campaign measured in processor time, not wall time: each
 # target runs niced (so it takes only what the machine leaves over) until it
-# has used CPU_SECONDS of processor time (ulimit -t ends it), two at a time on
-# the two cores. Its processor time is sampled every 10 s into
-# OUT/<target>.cpu, so a run that is killed still shows what it used.
-# Reaching the cap ends a target with exit 137 (killed), which is its normal
-# end here. Corpora and findings are kept in OUT/corpus and OUT/findings
+# has used CPU_SECONDS of processor time, two at a time on the two cores. Its
+# processor time is read from /proc every 10 s into OUT/<target>.cpu, so a
+# run that is killed still shows what it used, and the same reading ends it:
+# `ulimit -t` counts sampled ticks, which on a VM can run minutes ahead of
+# /proc, so the cap and the recorded figure would differ. Reaching the cap
+# ends a target with exit 137 (killed), which is its normal end here. Corpora and findings are kept in OUT/corpus and OUT/findings
 # across runs, so the hours of several runs add up.
 #
 #   tools/fuzz-long.sh CPU_SECONDS OUT [TARGET...]    # e.g. 3660 /work/fuzzing
@@ -22,7 +23,6 @@ run_one() {  # OUT CPU_SECONDS TARGET
   fuzz_prepare "$out" "$target"
   local corpus=$out/corpus/$target findings=$out/findings/$target
   (
-    ulimit -t "$secs"
     # Where the kernel groups processes by session (autogroup), nice ranks a
     # process only within its group, and a build in another session would
     # still share the machine half and half. So the target runs in a session
@@ -37,7 +37,9 @@ run_one() {  # OUT CPU_SECONDS TARGET
   while kill -0 "$pid" 2>/dev/null; do
     local stat
     if read -r -a stat <"/proc/$pid/stat" 2>/dev/null; then
-      echo "$(date -u +%FT%TZ) cpu_s $(((stat[13] + stat[14]) / tick))" >"$out/$target.cpu.now"
+      local used=$(((stat[13] + stat[14]) / tick))
+      echo "$(date -u +%FT%TZ) cpu_s $used" >"$out/$target.cpu.now"
+      ((used < secs)) || kill -KILL "$pid" 2>/dev/null || true
     fi
     sleep 10
   done
