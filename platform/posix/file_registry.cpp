@@ -233,7 +233,10 @@ RegistryApi::Key FileRegistry::HandleFor(Hive hive, const std::string& keyPath) 
 
 const FileRegistry::OpenKeyPath* FileRegistry::PathOf(Key key) const {
   if (key == 0 || key > handlePaths_.size()) return nullptr;
-  return &handlePaths_[key - 1];
+  // A handle closed as often as it was opened is gone, as on Windows: no
+  // read, write or close through it succeeds until the path is opened again.
+  const OpenKeyPath& open = handlePaths_[key - 1];
+  return open.opens == 0 ? nullptr : &open;
 }
 
 long FileRegistry::CreateKey(Hive hive, std::u16string_view subKey, Key& key) {
@@ -351,9 +354,8 @@ size_t FileRegistry::OpenHandles() const noexcept {
 }
 
 long FileRegistry::CloseKey(Key key) {
-  // A handle closed as often as it was opened is gone, as on Windows, so that
-  // closing twice cannot hide a key left open elsewhere.
-  if (PathOf(key) == nullptr || handlePaths_[key - 1].opens == 0) return kErrorInvalidHandle;
+  // Closing twice fails, so that it cannot hide a key left open elsewhere.
+  if (PathOf(key) == nullptr) return kErrorInvalidHandle;
   --handlePaths_[key - 1].opens;
   return kErrorSuccess;
 }

@@ -241,6 +241,8 @@ TEST(FileRegistry, RegistryCallResults) {
   EXPECT_EQ(registry.CloseKey(key), kErrorSuccess);
   EXPECT_EQ(registry.OpenHandles(), 0u);
   EXPECT_EQ(registry.CloseKey(key), kErrorInvalidHandle);  // closed as often as opened
+  EXPECT_EQ(registry.QueryValueW(key, u"Name", fits), kErrorInvalidHandle);
+  EXPECT_EQ(registry.SetStringValue(key, u"Name", u"x"), kErrorInvalidHandle);
   EXPECT_EQ(registry.CloseKey(999), kErrorInvalidHandle);
   EXPECT_EQ(registry.SetStringValue(999, u"Name", u"x"), kErrorInvalidHandle);
   const std::filesystem::directory_iterator files(folder.File("sub/dir"));
