@@ -6,8 +6,11 @@
 # run that is killed still shows what it used, and the same reading ends it:
 # `ulimit -t` counts sampled ticks, which on a VM can run minutes ahead of
 # /proc, so the cap and the recorded figure would differ. Reaching the cap
-# ends a target with exit 137 (killed), which is its normal end here. Corpora and findings are kept in OUT/corpus and OUT/findings
-# across runs, so the hours of several runs add up.
+# ends a target with exit 137 (killed), which is its normal end here.
+# Corpora and findings are kept in OUT/corpus and OUT/findings across runs,
+# so the hours of several runs add up; distil a run's finds into the
+# repository's corpus with
+#   build/fuzz/fuzz/<target> -merge=1 fuzz/corpus/<target> OUT/corpus/<target>
 #
 #   tools/fuzz-long.sh CPU_SECONDS OUT [TARGET...]    # e.g. 3660 /work/fuzzing
 #
