@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the libFuzzer targets (preset "fuzz": clang with the fuzzer,
 # AddressSanitizer and UndefinedBehaviorSanitizer) and runs each for SECONDS
-# (default 10) on a copy of its seed corpus in fuzz/corpus/<target>/.
+# (default 10) on a copy of its corpus in fuzz/corpus/<target>/.
 #
 #   tools/fuzz.sh [SECONDS] [TARGET...]
 #
