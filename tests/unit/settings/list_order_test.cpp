@@ -1,11 +1,15 @@
-// The lists' order against the exchange sort they have always had, written
-// here the straightforward way, on random lists: case variants, entries that
-// differ only in case, empty texts, non-ASCII and invalid bytes, and ties.
+// The lists against the straightforward algorithms they replaced, written
+// here as they were, on random lists: case variants, entries that differ only
+// in case, empty texts, non-ASCII and invalid bytes, and ties. Their order
+// against the exchange sort, and an item's index against a walk of the list.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
 
+#include "core/text.h"
 #include "settings/scripting_sort.h"
+#include "settings_fixture.h"
 
 namespace qvx {
 namespace {
@@ -60,6 +64,33 @@ TEST(ListOrder, SortMatchesTheExchangeSortOnBothColumns) {
       ASSERT_EQ(sorted, expected) << "seed " << seed << " column " << column;
     }
   }
+}
+
+// The index is looked up by key; the walk compared every item, case included.
+TEST(ListOrder, ItemIndexMatchesAWalkOfTheList) {
+  testing::SettingsFixture f;
+  for (unsigned seed = 1; seed <= 200; ++seed) {
+    std::mt19937 random(seed);
+    std::string text;
+    for (size_t i = random() % 40; i > 0; --i) text += RandomText(random) + "\r\n";
+    cSingleList list;
+    list.FromString(f.s, text, "\r\n");               // sorted, which rebuilds the dictionary
+    const std::string appended = RandomText(random);  // out of order, as the list views add
+    if (seed % 2 == 0 && !list.dicList.Exists(appended)) list.dicList.Add(appended, appended);
+    const Strings items = testing::Items(list);
+    Strings queries = items;
+    for (const std::string& item : items) {
+      queries.push_back(UCase(item));
+      queries.push_back(LCase(item));
+    }
+    for (size_t i = 0; i < 20; ++i) queries.push_back(RandomText(random));
+    for (const std::string& query : queries) {
+      const size_t walked = std::find(items.begin(), items.end(), query) - items.begin();
+      ASSERT_EQ(list.getItemIndex(f.s, query), static_cast<int16_t>(walked))
+          << "seed " << seed << " query '" << query << "'";
+    }
+  }
+  EXPECT_TRUE(f.Reports().empty());
 }
 
 TEST(ListOrder, ItemsKeepTheirKeysAndOnlyTwoColumnsAreKnown) {
