@@ -3,8 +3,6 @@
 #include "support/error_reporting.h"
 
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "core/dates.h"
 #include "sim/inspector.h"
@@ -12,6 +10,7 @@
 #include "support/app_texts.h"
 #include "support/endpoints.h"
 #include "support_fixture.h"
+#include "unit/file_bytes.h"
 
 namespace qvx::testing {
 namespace {
@@ -91,12 +90,9 @@ TEST_F(ErrorReporting, EachActionIsRecordedAndLoggedOnlyWithTheTraceFlag) {
   SetCurrentAction(s, "second");
   EXPECT_EQ(fncGetLogFolder(s), Home() + "/Documents\\Marlstone Data\\");
   EXPECT_EQ(fncGetLogFile(s), Home() + "/Documents\\Marlstone Data\\Quorvix Client Addin.log.txt");
-  std::ifstream in(Home() + "/Documents/Marlstone Data/Quorvix Client Addin.log.txt",
-                   std::ios::binary);
-  std::stringstream text;
-  text << in.rdbuf();
   const std::string stamp = DateToText(now);
-  EXPECT_EQ(text.str(), stamp + "\tfirst\r\n" + stamp + "\tsecond\r\n");
+  EXPECT_EQ(FileBytes(Home() + "/Documents/Marlstone Data/Quorvix Client Addin.log.txt"),
+            stamp + "\tfirst\r\n" + stamp + "\tsecond\r\n");
 }
 
 TEST_F(ErrorReporting, NoLogPathWithoutAFileSystemObject) {
