@@ -7,7 +7,6 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
-#include <tuple>
 #include <vector>
 
 #include "core/dates.h"
@@ -30,12 +29,17 @@
 namespace qvx::winetest {
 namespace {
 
-// Keeps a document the DLL answered for tools/wine-tests.sh, which validates
-// every file of bin/custom-ui/ against Office's schemas after the run.
-void KeepForTheSchemaTest(const std::string& markup, const std::wstring& name) {
+// The document the DLL answers for `ribbonId`, as Office asks for it, kept
+// as bin/custom-ui/<name> for tools/wine-tests.sh, which validates every file
+// there against Office's schemas after the run.
+std::string MarkupKeptForTheSchemaTest(DllRibbonAddin& ribbon, const char* ribbonId,
+                                       const std::wstring& name) {
+  const std::string markup = ribbon.GetCustomUI(ribbonId);
+  EXPECT_TRUE(markup.rfind("<customUI", 0) == 0) << ribbonId;
   const std::filesystem::path folder = std::filesystem::path(ProgramFolder()) / L"custom-ui";
   std::filesystem::create_directories(folder);
   std::ofstream(folder / name, std::ios::binary) << markup;
+  return markup;
 }
 
 // A configured user with two projects, and one appointment selected in the calendar.
@@ -112,28 +116,27 @@ TEST(CommandBars, TheUserTagsReportsAndShutsDownThroughConnectionPoints) {
 // and Outlook 2007 asks the inspector's ribbon for the add-in's own pictures
 // by name through loadImage. What the callbacks do is the ribbon scenarios'.
 TEST(Ribbon, MarkupForEachHostAndPicturesThroughLoadImage) {
-  for (const auto& [version, ribbonId, file] :
-       {std::tuple{"16.0.0.0", "Microsoft.Outlook.Explorer", L"explorer-16.xml"},
-        std::tuple{"12.0.0.0", "Microsoft.Outlook.Appointment", L"appointment-12.xml"}}) {
-    TaggingDesk desk(version);
+  {
+    TaggingDesk desk("16.0.0.0");
     DllRibbonAddin ribbon(desk.session);
-    const std::string markup = ribbon.GetCustomUI(ribbonId);
-    EXPECT_TRUE(markup.rfind("<customUI", 0) == 0);
-    KeepForTheSchemaTest(markup, file);
-    if (std::string_view(ribbonId) != "Microsoft.Outlook.Appointment") continue;
-    EXPECT_TRUE(markup.find("loadImage=\"getImages\"") != std::string::npos);
-    for (const char* name : {"Report", "Withdraw"}) {
-      std::vector<Variant> args{Variant(name)};
-      Variant picture;
-      ASSERT_TRUE(ribbon.Call("getImages", args, picture) == CallbackOutcome::Done);
-      ASSERT_TRUE(picture.IsObject());
-      ComPtr<IPicture> ole = win32::DispatchOf(picture.ToObject()).As<IPicture>(IID_IPicture);
-      ASSERT_TRUE(ole);
-      SHORT type = 0;
-      OLE_XSIZE_HIMETRIC width = 0;  // 32 pixels at 96 dots per inch
-      EXPECT_TRUE(SUCCEEDED(ole->get_Type(&type)) && type == PICTYPE_BITMAP);
-      EXPECT_TRUE(SUCCEEDED(ole->get_Width(&width)) && width == 847);
-    }
+    MarkupKeptForTheSchemaTest(ribbon, "Microsoft.Outlook.Explorer", L"explorer-16.xml");
+  }
+  TaggingDesk desk("12.0.0.0");
+  DllRibbonAddin ribbon(desk.session);
+  const std::string markup =
+      MarkupKeptForTheSchemaTest(ribbon, "Microsoft.Outlook.Appointment", L"appointment-12.xml");
+  EXPECT_TRUE(markup.find("loadImage=\"getImages\"") != std::string::npos);
+  for (const char* name : {"Report", "Withdraw"}) {
+    std::vector<Variant> args{Variant(name)};
+    Variant picture;
+    ASSERT_TRUE(ribbon.Call("getImages", args, picture) == CallbackOutcome::Done);
+    ASSERT_TRUE(picture.IsObject());
+    ComPtr<IPicture> ole = win32::DispatchOf(picture.ToObject()).As<IPicture>(IID_IPicture);
+    ASSERT_TRUE(ole);
+    SHORT type = 0;
+    OLE_XSIZE_HIMETRIC width = 0;  // 32 pixels at 96 dots per inch
+    EXPECT_TRUE(SUCCEEDED(ole->get_Type(&type)) && type == PICTYPE_BITMAP);
+    EXPECT_TRUE(SUCCEEDED(ole->get_Width(&width)) && width == 847);
   }
 }
 
